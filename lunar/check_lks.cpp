@@ -1,0 +1,46 @@
+#include <tuple>
+
+#include "lks_fields.h"
+
+namespace Karvel_Sorand {
+
+namespace {
+
+std::int16_t FirstFailedCheck(LksDate& date) {
+  if (date.MetNum < 1 || date.MetNum > MetCycleCount) return -3;
+  const auto cycle = static_cast<std::size_t>(date.MetNum);
+  if (date.MetType != std::u16string_view(MetCycleTypes).substr(cycle - 1, 1)) return -4;
+
+  if (date.YearInMet < 1 || date.YearInMet > YearsInMetCycle) return -5;
+  const std::u16string_view pattern = YearTypesOf(date.MetType);
+  if (date.YearType != pattern.substr(static_cast<std::size_t>(date.YearInMet) - 1, 1)) return -5;
+
+  // "C" is one letter past the types that there are; the last check refuses it.
+  if (date.MonthType < u"A" || date.MonthType > u"C") return -7;
+  if (date.Month < 1 || date.Month > 13) return -8;
+  if (date.Day < 1 || date.Day > 30) return -10;
+
+  // Lengths of months, their types and month 13 are not looked at one by one: a date that does not
+  // exist adds up to a day that has another date.
+  LksDate other{};
+  JdnToLksFields(LksDateToJdn(date), other, true);
+  return SameLksDate(date, other) ? 0 : -6;
+}
+
+}  // namespace
+
+std::int16_t CheckLksDate(LksDate& date) {
+  const std::int16_t status = FirstFailedCheck(date);
+  date.Valid = status == 0 ? LksTrue : LksFalse;
+  return status;
+}
+
+bool SameLksDate(const LksDate& a, const LksDate& b) {
+  const auto fields = [](const LksDate& date) {
+    return std::tie(date.GMet, date.MetType, date.MetNum, date.YearType, date.YearInMet,
+                    date.MonthType, date.Month, date.Day);
+  };
+  return fields(a) == fields(b);
+}
+
+}  // namespace Karvel_Sorand
