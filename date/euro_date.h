@@ -1,0 +1,62 @@
+// The Gregorian side: names of months and weekdays, today's date, and dates as text. The
+// arithmetic is the calendar library's.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "calendar_library.h"
+
+namespace DatePr2 {
+
+// Fills the module values below. To be called once at start-up; they do not change afterwards.
+void InitDateTables();
+
+// Entries 1 to 12, "January" to "December"; entry 0 is not used.
+extern const std::array<std::u16string_view, 13>& MonthNames;
+
+// In which order DateText writes the fields of a date.
+extern const std::int16_t& DateOrderMDY;  // 0: month, day, year
+extern const std::int16_t& DateOrderDMY;  // 1: day, month, year
+extern const std::int16_t& DateOrderYMD;  // 2: year, month, day
+
+// Sets `jdn` and `valid` of `date` from its other fields: euro_date_to_jdn.
+void EuroDateToJdn(EuroDate& date);
+
+// Sets `year`, `month` and `day` of `date` from its `jdn` and `calendar`: jdn_to_euro_date.
+void JdnToEuroDate(EuroDate& date);
+
+// The English name of weekday `number`, 0 being Sunday; empty for a number outside 0 to 6. With
+// `padded`, filled at the right with blanks to nine characters, the length of "Wednesday".
+std::u16string WeekdayName(std::int16_t number, bool padded);
+
+// The same for the weekday of day `jdn`.
+std::u16string DayOfWeekName(std::int32_t jdn, bool padded);
+
+// The local date of the system as a text of the form mm-dd-yyyy. The program sets it before it
+// asks for today; a test sets a date of its own.
+extern std::u16string (*SystemDate)();
+
+// Fills `date` with the system's local date, asked for anew at every call.
+void GetToday(EuroDate& date);
+
+// The JDN of today.
+std::int32_t TodayJdn();
+
+// `date` as numbers: day and month with two digits at least, the year in plain decimal with a
+// leading "-" if negative, in the order `order`, joined by `separator`. A negative year that is not
+// in front stands in brackets. A year above 9999 or below -9999 is grouped with the first character
+// of `thousands_separator`, unless that is empty.
+std::u16string DateText(const EuroDate& date, std::int16_t order, std::u16string_view separator,
+                        std::u16string_view thousands_separator);
+
+// The number `year_text` with the first character of `separator` between groups of three digits;
+// the text itself if `separator` is empty.
+std::u16string SeparateThousands(std::u16string_view year_text, std::u16string_view separator);
+
+// Cuts `text` just ahead of its first character of code 0, if it has one.
+void TrimAtNul(std::u16string& text);
+
+}  // namespace DatePr2
