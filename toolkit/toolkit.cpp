@@ -1,0 +1,120 @@
+#include "toolkit.h"
+
+#include <algorithm>
+
+namespace Toolkit {
+
+namespace {
+
+void Raise(const Event& event) {
+  if (event) event();
+}
+
+// Gives `property` the value `value` and tells whether that is another than it had.
+template <class Property, class Value>
+bool Change(Property& property, const Value& value) {
+  if (property == value) return false;
+  property = value;
+  return true;
+}
+
+}  // namespace
+
+void Coloured::SetBackColor(Color color) {
+  if (Change(back_color_, color)) ApplyBackColor();
+}
+
+void Label::SetCaption(std::u16string_view caption) {
+  if (Change(caption_, caption)) ApplyCaption();
+}
+
+void TextBox::SetText(std::u16string_view text) {
+  const bool same_length = static_cast<std::size_t>(TextLength()) == text.size();
+  if (!same_length || Text() != text) ApplyText(text);
+}
+
+std::u16string TextBox::TrimText() {
+  std::u16string text = Text();
+  const std::size_t first = text.find_first_not_of(u' ');
+  const auto cut = static_cast<std::int32_t>(first == text.npos ? text.size() : first);
+  std::u16string rest = text.substr(static_cast<std::size_t>(cut));
+  rest.resize(rest.find_last_not_of(u' ') + 1);  // npos + 1 is 0: nothing but blanks
+  if (rest.size() == text.size()) return text;
+
+  const auto length = static_cast<std::int32_t>(rest.size());
+  const auto moved = [&](std::int32_t place) { return std::clamp(place - cut, 0, length); };
+  const Selection selection = SelectedText();
+  ApplyText(rest);
+  SelectText({moved(selection.start), moved(selection.end)});
+  return rest;
+}
+
+void TextBox::NoteKeyDown(std::int16_t key_code, bool is_repeat) {
+  if (!is_repeat) keys_down_.set(static_cast<std::size_t>(key_code));
+}
+
+void TextBox::NoteKeyUp(std::int16_t key_code, std::int16_t shift) {
+  const auto key = static_cast<std::size_t>(key_code);
+  if (!keys_down_.test(key)) return;
+  keys_down_.reset(key);
+  if (KeyUp) KeyUp(key_code, shift);
+}
+
+void List::AddItem(std::u16string_view item) {
+  items_.emplace_back(item);
+  ApplyNewItem(items_.back());
+}
+
+void List::Clear() {
+  items_.clear();
+  ApplyClear();
+}
+
+std::u16string_view List::Item(int index) const {
+  if (index < 0 || index >= ListCount()) return {};
+  return items_[static_cast<std::size_t>(index)];
+}
+
+void List::SetListIndex(int index) {
+  if (ListIndex() != index) ApplyListIndex(index);
+  Raise(Click);
+}
+
+void OptionButton::Select() {
+  if (!Value()) {
+    OptionButton* const before = group_.selected;
+    group_.selected = this;
+    if (before) before->ApplyValue();
+    ApplyValue();
+  }
+  Raise(Click);
+}
+
+void OptionButton::NoteChosen() {
+  if (!Value()) Select();
+}
+
+void OptionButton::SetFontBold(bool bold) {
+  if (Change(font_bold_, bold)) ApplyFontBold();
+}
+
+void CommandButton::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  if (!enabled && HasFocus()) PassFocusOn();
+  enabled_ = enabled;
+  ApplyEnabled();
+}
+
+void CommandButton::NotePressed() {
+  if (enabled_) Raise(Click);
+}
+
+void Window::SetCaption(std::u16string_view caption) {
+  if (Change(caption_, caption)) ApplyCaption();
+}
+
+void Window::NoteActivated() {
+  if (Change(was_active_, true)) Raise(Activate);
+}
+
+}  // namespace Toolkit

@@ -1,0 +1,256 @@
+// What the form asks of a window toolkit, and nothing more: one fixed-size window and its controls,
+// a timer, message boxes and the clipboard. A platform derives a class from each of these and
+// fills in the pure virtual functions; the behaviour that must be the same on every platform stands
+// here once, in the functions that are not virtual:
+//
+//  1. A selection set from code raises the control's Click at once, before the call returns, also
+//     when the selection is the one it had.
+//  2. Setting a property to the value it has already does not reach the platform: nothing is
+//     repainted, no caret moves, no focus is lost.
+//  3. A key-up is raised for a text box only if that key went down in that same box while it held
+//     the focus. So the Enter that closes a message box, which comes up in the box behind it, does
+//     not count there.
+//  4. A command button that turns disabled while it holds the focus first passes the focus on to
+//     the next control that can take it.
+//
+// Texts are UTF-16. Lengths of the stored layout are in twips, 1/1440 of an inch.
+#pragma once
+
+#include <bitset>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Toolkit {
+
+using Event = std::function<void()>;
+using Color = std::int32_t;  // 0x00BBGGRR
+
+struct Font {
+  std::u16string_view face;
+  int height;  // twips; 20 twips are a point
+};
+
+enum class Kind { Frame, Label, TextBox, List, OptionButton, CommandButton };
+
+// One row of a window's stored layout.
+struct StoredControl {
+  std::u16string_view name;
+  int index;  // in the group of controls that share the name; NoIndex for a control of its own
+  Kind kind;
+  struct Corner {
+    int left, top;
+  } container;  // where left and top count from, itself counted from the corner of the client area
+  int left, top, width, height;
+  int tab;  // position in the tab order, from 0
+  std::u16string_view text;
+  Font font;
+  std::u16string_view spoken_name;  // what a screen reader says; empty: the caption serves
+
+  struct Properties {
+    bool centred = false;        // label: text in the middle
+    bool several_lines = false;  // text box: several lines, vertical scroll bar
+    int max_length = 0;          // text box: characters that can be typed; 0 is no limit
+    bool typed_in = false;       // list: a line that the user can type in
+  } properties;
+};
+inline constexpr int NoIndex = -1;
+
+class Control {
+ public:
+  Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+  virtual ~Control() = default;
+};
+
+// Anything whose background colour can be set.
+class Coloured {
+ public:
+  virtual ~Coloured() = default;
+  static constexpr Color UsualColor = -1;  // the platform's own, before any is set
+  Color BackColor() const { return back_color_; }
+  void SetBackColor(Color color);
+
+ protected:
+  virtual void ApplyBackColor() = 0;
+
+ private:
+  Color back_color_ = UsualColor;
+};
+
+class Frame : public Control, public Coloured {};
+
+class Label : public Control, public Coloured {
+ public:
+  explicit Label(std::u16string_view caption) : caption_(caption) {}
+  const std::u16string& Caption() const { return caption_; }
+  void SetCaption(std::u16string_view caption);
+
+ protected:
+  virtual void ApplyCaption() = 0;
+
+ private:
+  std::u16string caption_;
+};
+
+class TextBox : public Control {
+ public:
+  // A stretch of characters, counted from 0; an empty one is the caret's place.
+  struct Selection {
+    std::int32_t start, end;
+    bool operator==(const Selection&) const = default;
+  };
+
+  std::function<void(std::int16_t key_code, std::int16_t shift)> KeyUp;
+
+  virtual std::u16string Text() const = 0;
+  virtual std::int32_t TextLength() const = 0;  // without copying the text
+  void SetText(std::u16string_view text);
+  virtual void AppendText(std::u16string_view text) = 0;  // without copying what is there
+  virtual void SetSelStart(std::int32_t position) = 0;    // the caret, and scrolls it into view
+
+  // Takes the blanks off both ends and gives the text that is left. Writes nothing where there are
+  // none; otherwise caret and selection stay on the characters they stood on.
+  std::u16string TrimText();
+
+ protected:
+  virtual void ApplyText(std::u16string_view text) = 0;
+  virtual Selection SelectedText() const = 0;
+  virtual void SelectText(Selection selection) = 0;
+
+  // To be called by the platform. A repeat is a key-down of a key that is down already.
+  void NoteKeyDown(std::int16_t key_code, bool is_repeat);
+  void NoteKeyUp(std::int16_t key_code, std::int16_t shift);
+  void NoteFocusLost() { keys_down_.reset(); }
+
+ private:
+  std::bitset<256> keys_down_;
+};
+
+inline constexpr std::int16_t EnterKey = 13;
+
+class List : public Control {
+ public:
+  Event Click;
+
+  void AddItem(std::u16string_view item);
+  void Clear();
+  int ListCount() const { return static_cast<int>(items_.size()); }
+  std::u16string_view Item(int index) const;  // empty for an index outside the list
+  virtual int ListIndex() const = 0;          // -1 when nothing is selected
+  void SetListIndex(int index);
+
+ protected:
+  virtual void ApplyNewItem(const std::u16string& item) = 0;
+  virtual void ApplyClear() = 0;
+  virtual void ApplyListIndex(int index) = 0;
+
+ private:
+  std::vector<std::u16string> items_;
+};
+
+class OptionButton;
+
+// The option buttons of a window: at most one of them is selected.
+struct OptionGroup {
+  OptionButton* selected = nullptr;
+};
+
+class OptionButton : public Control, public Coloured {
+ public:
+  explicit OptionButton(OptionGroup& group) : group_(group) {}
+  Event Click;
+
+  bool Value() const { return group_.selected == this; }
+  void Select();
+  bool FontBold() const { return font_bold_; }
+  void SetFontBold(bool bold);
+
+ protected:
+  virtual void ApplyValue() = 0;
+  virtual void ApplyFontBold() = 0;
+
+  // To be called by the platform when the user picks the button. Nothing happens if it is the
+  // selected one: some platforms report a pick whenever the button gets the focus.
+  void NoteChosen();
+
+ private:
+  OptionGroup& group_;
+  bool font_bold_ = false;
+};
+
+class CommandButton : public Control {
+ public:
+  explicit CommandButton(std::u16string_view caption) : caption_(caption) {}
+  Event Click;
+
+  const std::u16string& Caption() const { return caption_; }
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  virtual bool Visible() const = 0;  // false while the window is not on the screen
+  virtual void SetFocus() = 0;
+
+ protected:
+  virtual void ApplyEnabled() = 0;
+  virtual bool HasFocus() const = 0;
+  virtual void PassFocusOn() = 0;
+
+  // To be called by the platform when the user presses the button.
+  void NotePressed();
+
+ private:
+  std::u16string caption_;
+  bool enabled_ = true;
+};
+
+class Timer {
+ public:
+  virtual ~Timer() = default;
+  Event Tick;
+  virtual void Enable(int milliseconds) = 0;  // from now on, a tick every so often
+};
+
+class Window : public Coloured {
+ public:
+  Event Activate;  // the window has become the program's active one, for the first time
+  Event Unload;    // the user closes the window
+
+  const std::u16string& Caption() const { return caption_; }
+  void SetCaption(std::u16string_view caption);
+
+ protected:
+  virtual void ApplyCaption() = 0;
+
+  // To be called by the platform each time the window becomes active.
+  void NoteActivated();
+
+ private:
+  std::u16string caption_;
+  bool was_active_ = false;
+};
+
+// The styles of a message box, with the numbers that the platform has for them.
+enum class Icon { Exclamation = 48, Information = 64 };
+
+// What a program gets its window and its controls from.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  virtual Window& MainWindow() = 0;
+  virtual Timer& MainTimer() = 0;
+  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;  // in tab order
+
+  // Shows a box with an OK button and returns when the user has closed it.
+  virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
+
+  // Empties the clipboard, then puts `text` on it. If that cannot be done it stays as it is.
+  virtual void SetClipboardText(std::u16string_view text) = 0;
+
+  virtual void EndProgram() = 0;
+};
+
+}  // namespace Toolkit
