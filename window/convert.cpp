@@ -1,0 +1,104 @@
+#include "decimal.h"
+#include "main_window.h"
+
+using Karvel_Sorand::LksDate;
+using StrProc::Decimal;
+using Toolkit::Icon;
+
+namespace {
+
+constexpr std::u16string_view InvalidInput = u"Invalid input";
+
+std::u16string InvalidLksText(const LksDate& date, std::int16_t status) {
+  std::u16string text = u"Invalid input for Lunar Karvel-Sorand date.";
+  if (status == -4) {
+    const char16_t type = Karvel_Sorand::MetCycleTypes[static_cast<std::size_t>(date.MetNum) - 1];
+    text += u"\r\nMetonic cycle " + Decimal(date.MetNum) + u" is of type " + type + u".";
+  } else if (status != -6) {
+    text += u"\r\nError code " + Decimal(status);
+  }
+  return text;
+}
+
+// The words of the messages, by row.
+constexpr std::u16string_view Unreadable[] = {u"Gregorian  date is invalid.",
+                                              u"Solar Karvel-Gregorian  date is invalid."};
+constexpr std::u16string_view DoesNotExist[] = {u"The Gregorian date is invalid.",
+                                                u"The Solar Karvel-Sorand date is invalid."};
+
+}  // namespace
+
+void frmMain::cmdConvert_Click() {
+  LksDate lks{};
+  EuroDate euro{};
+  lblDayOfWeek[2]->SetCaption(u"");
+  const std::int16_t calendar = SelectedCalendar();
+  const bool converted =
+      calendar == 2 ? ConvertFromLks(euro, lks) : ConvertFromEuro(calendar, euro, lks);
+  if (!converted) return;
+  AppendBlock(calendar, euro, lks);
+  CheckSameDay(-1);
+}
+
+bool frmMain::ConvertFromLks(EuroDate& euro, LksDate& lks) {
+  std::int16_t status = 0;
+  ReadLksDate(lks, status);
+  if (status < 0) {
+    desktop.ShowMessage(InvalidLksText(lks, status), InvalidInput, Icon::Exclamation);
+    return false;
+  }
+  ShowLksDate(lks);
+  euro.calendar = GregorianCalendar;
+  euro.jdn = lks.Jdn;
+  DatePr2::JdnToEuroDate(euro);
+  ShowEuroDate(euro, 0);
+  ShowEuroDate(euro, 1);
+  return true;
+}
+
+bool frmMain::ConvertFromEuro(std::int16_t Index, EuroDate& euro, LksDate& lks) {
+  const auto row = static_cast<std::size_t>(Index);
+  std::int16_t status = 0;
+  ReadEuroDate(Index, euro, status);
+  if (status < 0) {
+    desktop.ShowMessage(Unreadable[row], InvalidInput, Icon::Exclamation);
+    return false;
+  }
+  DatePr2::EuroDateToJdn(euro);
+  if (euro.valid == 0) {
+    desktop.ShowMessage(DoesNotExist[row], InvalidInput, Icon::Information);
+    return false;
+  }
+  if (JdnToLksDate(euro.jdn, lks, true) < 0) {
+    desktop.ShowMessage(u"Error getting Lunar Karvel-Sorand date", u"Error", Icon::Exclamation);
+    return false;
+  }
+  ShowLksDate(lks);
+  ShowEuroDate(euro, 1);
+  ShowEuroDate(euro, 0);
+  return true;
+}
+
+void frmMain::AppendBlock(std::int16_t calendar, const EuroDate& euro, const LksDate& lks) {
+  const std::u16string date = DatePr2::DateText(euro, DatePr2::DateOrderYMD, u"-", u"");
+  const std::u16string lines[] = {date + u" (" + lblDayOfWeek[0]->Caption() + u" in 7-day week)",
+                                  date + u" (" + lblDayOfWeek[1]->Caption() + u" in 7/8-day week)",
+                                  lks.Label};
+  // The line of the selected calendar comes first, the others follow in their order.
+  std::u16string block = u"  " + lines[calendar] + u"\r\n";
+  for (std::int16_t other = 0; other <= 2; ++other) {
+    if (other != calendar) block += u"= " + lines[other] + u"\r\n";
+  }
+  block += u"\r\n";
+  txbOutput.AppendText(block);
+  txbOutput.SetSelStart(txbOutput.TextLength());
+}
+
+void frmMain::txbYearCE_KeyUp(std::int16_t Index, std::int16_t KeyCode, std::int16_t) {
+  const auto row = static_cast<std::size_t>(Index);
+  if (KeyCode == Toolkit::EnterKey && optCalendar[row]->Value()) cmdConvert_Click();
+}
+
+void frmMain::txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t) {
+  if (KeyCode == Toolkit::EnterKey && optCalendar[2]->Value()) cmdConvert_Click();
+}

@@ -1,0 +1,121 @@
+// The form frmMain: its controls and the handlers of their events.
+//
+// The index of a date control is its calendar: 0 Gregorian, 1 Solar Karvel-Gregorian, 2 Lunar
+// Karvel-Sorand. The date fields are the only store of the current date: ReadEuroDate and
+// ReadLksDate are the only ways from the fields into records, ShowEuroDate and ShowLksDate the only
+// ways back. A list or an option that is selected from code runs its click handler at once, and the
+// list handlers blank a weekday label; so whatever sets lists and a label writes the label last.
+//
+// Reads, shows and the tick are silent; only a command shows a message box.
+#pragma once
+
+#include <array>
+#include <cassert>
+
+#include "euro_date.h"
+#include "layout.h"
+#include "lks_date.h"
+#include "toolkit.h"
+
+struct ProgramVersion {
+  int major_number, minor_number;
+};
+
+class frmMain {
+  std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout
+
+  // The control of a row of the stored layout, which tells its kind.
+  template <class T>
+  T& Find(std::u16string_view name, int index = Toolkit::NoIndex);
+
+  template <class T, int count>
+  std::array<T*, count> FindGroup(std::u16string_view name);
+
+ public:
+  // `copyright` is the publisher's notice, one line.
+  frmMain(Toolkit::Desktop& desktop, ProgramVersion version, std::u16string_view copyright);
+
+  Toolkit::Desktop& desktop;
+  Toolkit::Window& window;
+  Toolkit::Timer& Timer1;
+  Toolkit::Frame& Frame1;
+  Toolkit::TextBox& txbOutput;
+  Toolkit::Label& lblCopyright;
+  std::array<Toolkit::CommandButton*, 3> cmdTBF;  // 0 today, 1 back, 2 forward
+  Toolkit::CommandButton &cmdCopy, &cmdClear, &cmdQuit, &cmdConvert;
+  std::array<Toolkit::OptionButton*, 3> optCalendar;
+  std::array<Toolkit::List*, 3> cboMonth, cboDay;
+  std::array<Toolkit::TextBox*, 2> txbYearCE;
+  std::array<Toolkit::Label*, 3> lblDayOfWeek;
+  Toolkit::List &cboGMet, &cboMType, &cboYearInMet;
+  Toolkit::TextBox& txbMetNum;
+  Toolkit::Label &lblM, &lblDash, &lblSameDay;
+
+  // start_up.cpp. Form_Load brings the window from its stored layout to the moment it can go on the
+  // screen; to be called once. FillDateLists gives every list its items and selects one.
+  void Form_Load();
+  void FillDateLists();
+
+  // read_date.cpp. Fill a record from row `Index` (0 or 1) or from the lunar row, and take the
+  // blanks off the ends of the text fields they read. A negative status says which field is bad:
+  //   ReadEuroDate: -1 the year is empty, -2 it holds a character other than a digit or "-", -3 a
+  //     "-" stands behind another character, -4 it lies outside -9999 to 99999. The year is then
+  //     not written and `valid` is 0. It does not test that the date exists.
+  //   ReadLksDate: -1 the cycle number is empty, -2 it holds a character other than a digit;
+  //     otherwise as for CheckLksDate, with -5 also for no year selected.
+  void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);
+  void ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status);
+
+  // show_date.cpp. Fill row `Index` (0 or 1) or the lunar row from a record. Row 1 takes its
+  // weekday from the label of the lunar row, so for one day ShowLksDate comes first.
+  void ShowEuroDate(const EuroDate& date, std::int16_t Index);
+  void ShowLksDate(const Karvel_Sorand::LksDate& date);
+
+  // convert.cpp. Carries the date of the selected calendar to the other rows and adds a block to
+  // the pane. Enter in a date field of the selected calendar does the same when it is released.
+  void cmdConvert_Click();
+  void txbYearCE_KeyUp(std::int16_t Index, std::int16_t KeyCode, std::int16_t Shift);
+  void txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
+
+  // same_day.cpp. Says in lblSameDay whether the three rows denote one day, and gives that back.
+  // Mode 0 takes False and mode 1 takes True without reading anything.
+  bool CheckSameDay(std::int16_t mode);
+
+  // tick.cpp. Once a second: the same-day sentence, and which commands can be pressed.
+  void Timer1_Timer();
+
+  // list_clicks.cpp. A new selection blanks the weekday beside it and hands the focus to Convert.
+  void cboGMet_Click();
+  void cboYearInMet_Click();
+  void cboMonth_Click(std::int16_t Index);
+  void cboDay_Click(std::int16_t Index);
+  void FocusConvert();
+
+  // step.cpp. Today's date, back one day, forward one day; and the first screen.
+  void cmdTBF_Click(std::int16_t Index);
+  void Form_Activate();
+
+  // small_commands.cpp
+  void optCalendar_Click(std::int16_t Index);
+  void cmdCopy_Click();
+  void cmdClear_Click();
+  void cmdQuit_Click();
+  void Form_Unload();
+
+ private:
+  void WireEvents();
+
+  // The row that the next command reads: the first option that is selected.
+  std::int16_t SelectedCalendar() const;
+
+  // The JDN of the date of the selected calendar, if its row can be read and the date exists.
+  bool ReadSelectedJdn(std::int32_t& jdn);
+
+  bool ConvertFromLks(EuroDate& euro, Karvel_Sorand::LksDate& lks);
+  bool ConvertFromEuro(std::int16_t Index, EuroDate& euro, Karvel_Sorand::LksDate& lks);
+  void AppendBlock(std::int16_t calendar, const EuroDate& euro, const Karvel_Sorand::LksDate& lks);
+
+  ProgramVersion version;
+  std::u16string copyright;
+  bool FormLoaded = false;  // True from the end of Form_Load on
+};

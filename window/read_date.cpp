@@ -1,0 +1,102 @@
+#include <algorithm>
+#include <limits>
+
+#include "decimal.h"
+#include "main_window.h"
+#include "str_proc.h"
+
+using StrProc::DecimalValue;
+
+namespace {
+
+// What five typed characters can say. A field can be made to hold more from outside the program.
+constexpr std::int32_t MinYear = -9999;
+constexpr std::int32_t MaxYear = 99999;
+
+// The number of the selected item of `list`, counted from 1; 0 when nothing is selected.
+template <class Number>
+Number SelectedNumber(const Toolkit::List& list) {
+  return static_cast<Number>(list.ListIndex() + 1);
+}
+
+std::int16_t YearStatus(std::u16string_view text) {
+  if (text.empty()) return -1;
+  if (!StrProc::IsAllDigitsOr(text, u"-")) return -2;
+  const std::size_t last_minus = text.rfind(u'-');
+  if (last_minus != text.npos && last_minus > 0) return -3;
+  const std::int32_t year = DecimalValue(text);
+  return year < MinYear || year > MaxYear ? -4 : 0;
+}
+
+// The number at the start of `text`, or the nearest that a field of the record holds; the check of
+// the date refuses that one.
+std::int16_t FieldNumber(std::u16string_view text) {
+  constexpr std::int32_t Most = std::numeric_limits<std::int16_t>::max();
+  return static_cast<std::int16_t>(std::min(DecimalValue(text), Most));
+}
+
+// Takes an item such as "LYC-15" or "LA-11" apart: behind `prefix` characters the letter of the
+// type, a dash, and the number.
+void TakeApart(std::u16string_view item, std::size_t prefix, std::u16string& type,
+               std::int16_t& number) {
+  type.assign(1, item[prefix]);
+  number = FieldNumber(item.substr(prefix + 2));
+}
+
+}  // namespace
+
+void frmMain::ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status) {
+  const auto row = static_cast<std::size_t>(Index);
+  date.calendar = GregorianCalendar;
+  date.month = SelectedNumber<std::int32_t>(*cboMonth[row]);
+  date.day = SelectedNumber<std::int32_t>(*cboDay[row]);
+  const std::u16string text = txbYearCE[row]->TrimText();
+  status = YearStatus(text);
+  date.valid = status == 0 ? 1 : 0;
+  if (status == 0) date.year = DecimalValue(text);
+}
+
+void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
+  date.Valid = Karvel_Sorand::LksFalse;
+  date.GMet = SelectedNumber<std::int16_t>(cboGMet);
+  // With no type selected this is the character before "A", which is the type of no cycle.
+  date.MetType.assign(1, static_cast<char16_t>(u'A' + cboMType.ListIndex()));
+  const std::u16string text = txbMetNum.TrimText();
+  if (text.empty()) {
+    status = -1;
+    return;
+  }
+  if (!StrProc::IsAllDigits(text)) {
+    status = -2;
+    return;
+  }
+  date.MetNum = FieldNumber(text);
+
+  const std::u16string_view year = cboYearInMet.Item(cboYearInMet.ListIndex());
+  const std::u16string_view month = cboMonth[2]->Item(cboMonth[2]->ListIndex());
+  if (year.empty() || month.empty()) {
+    status = -5;
+    return;
+  }
+  TakeApart(year, 2, date.YearType, date.YearInMet);
+  TakeApart(month, 1, date.MonthType, date.Month);
+  date.Day = SelectedNumber<std::int16_t>(*cboDay[2]);
+  status = CheckLksDate(date);
+}
+
+bool frmMain::ReadSelectedJdn(std::int32_t& jdn) {
+  std::int16_t status = 0;
+  if (SelectedCalendar() == 2) {
+    Karvel_Sorand::LksDate date{};
+    ReadLksDate(date, status);
+    if (status < 0) return false;
+    jdn = LksDateToJdn(date);
+    return true;
+  }
+  EuroDate date{};
+  ReadEuroDate(SelectedCalendar(), date, status);
+  if (status < 0) return false;
+  DatePr2::EuroDateToJdn(date);
+  jdn = date.jdn;
+  return date.valid != 0;
+}

@@ -1,0 +1,40 @@
+#include "decimal.h"
+#include "main_window.h"
+
+using StrProc::Decimal;
+
+namespace {
+
+// Selects the first item of `list` that reads `text`. Years and months are found by their text,
+// since the lists do not run evenly: "LYA-1" and "LYB-1" are both year 1.
+void SelectItem(Toolkit::List& list, const std::u16string& text) {
+  for (int index = 0; index < list.ListCount(); ++index) {
+    if (list.Item(index) == text) {
+      list.SetListIndex(index);
+      return;
+    }
+  }
+}
+
+}  // namespace
+
+void frmMain::ShowLksDate(const Karvel_Sorand::LksDate& date) {
+  cboGMet.SetListIndex(date.GMet - 1);
+  cboMType.SetListIndex(date.MetType.front() - u'A');
+  txbMetNum.SetText(Decimal(date.MetNum));
+  SelectItem(cboYearInMet, u"LY" + date.YearType + u"-" + Decimal(date.YearInMet));
+  SelectItem(*cboMonth[2], u"L" + date.MonthType + u"-" + Decimal(date.Month));
+  cboDay[2]->SetListIndex(date.Day - 1);
+  // Last: the selections above have blanked it.
+  lblDayOfWeek[2]->SetCaption(Karvel_Sorand::LunarWeekdayName(date.Day, date.MonthType));
+}
+
+void frmMain::ShowEuroDate(const EuroDate& date, std::int16_t Index) {
+  const auto row = static_cast<std::size_t>(Index);
+  cboMonth[row]->SetListIndex(date.month - 1);
+  cboDay[row]->SetListIndex(date.day - 1);
+  txbYearCE[row]->SetText(Decimal(date.year));
+  // Last, as above. The Solar row has the weekday of the lunar date.
+  lblDayOfWeek[row]->SetCaption(Index == 0 ? DatePr2::DayOfWeekName(date.jdn, false)
+                                           : lblDayOfWeek[2]->Caption());
+}

@@ -1,0 +1,89 @@
+#include "decimal.h"
+#include "main_window.h"
+
+using StrProc::Decimal;
+
+namespace {
+
+constexpr Toolkit::Color Yellow = 0xE8F0;  // red 240, green 232, blue 0
+
+void FillList(Toolkit::List& list, const std::vector<std::u16string>& items, int selected) {
+  list.Clear();
+  for (const std::u16string& item : items) list.AddItem(item);
+  list.SetListIndex(selected);
+}
+
+std::vector<std::u16string> Numbers(int last) {
+  std::vector<std::u16string> items;
+  for (int number = 1; number <= last; ++number) items.push_back(Decimal(number));
+  return items;
+}
+
+// The pairs of month type and month number that there are. Month 12 can be of either type.
+std::vector<std::u16string> LunarMonths() {
+  std::vector<std::u16string> items;
+  for (int i = 0; i <= 4; ++i) {
+    items.push_back(u"LA-" + Decimal(2 * i + 1));
+    items.push_back(u"LB-" + Decimal(2 * i + 2));
+  }
+  items.insert(items.end(), {u"LA-11", u"LA-12", u"LB-12", u"LA-13"});
+  return items;
+}
+
+// The pairs of year type and year number that there are. Years 2 to 18 have the same type in every
+// cycle; years 1 and 19 can be of two types each.
+std::vector<std::u16string> YearsOfMetCycle() {
+  std::vector<std::u16string> items = {u"LYA-1", u"LYB-1"};
+  for (int year = 2; year <= 18; ++year) {
+    const char16_t type = Karvel_Sorand::YearTypesOfA[static_cast<std::size_t>(year) - 1];
+    items.push_back(std::u16string(u"LY") + type + u"-" + Decimal(year));
+  }
+  items.insert(items.end(), {u"LYA-19", u"LYC-19"});
+  return items;
+}
+
+}  // namespace
+
+void frmMain::Form_Load() {
+  FormLoaded = false;
+  window.SetCaption(u"Tandem Karvel-Sorand Calendar, Version " + Decimal(version.major_number) +
+                    u"." + Decimal(version.minor_number));
+  lblCopyright.SetCaption(copyright);
+
+  window.SetBackColor(Yellow);
+  const Toolkit::Color color = window.BackColor();
+  Frame1.SetBackColor(color);
+  lblCopyright.SetBackColor(color);
+  for (std::size_t index = 0; index <= 2; ++index) {
+    optCalendar[index]->SetBackColor(color);
+    lblDayOfWeek[index]->SetBackColor(color);
+  }
+  lblSameDay.SetBackColor(color);
+  lblM.SetBackColor(color);
+  lblDash.SetBackColor(color);
+
+  optCalendar[0]->Select();
+  DatePr2::InitDateTables();
+  Karvel_Sorand::InitLksTables();
+  FillDateLists();
+
+  txbYearCE[0]->SetText(u"");
+  txbYearCE[1]->SetText(u"");
+  txbOutput.SetText(u"");
+  Timer1.Enable(Timer1Interval);
+  FormLoaded = true;
+}
+
+void frmMain::FillDateLists() {
+  const auto& months = DatePr2::MonthNames;
+  const std::vector<std::u16string> month_items(months.begin() + 1, months.end());
+  FillList(*cboMonth[0], month_items, 0);
+  FillList(*cboMonth[1], month_items, 0);
+  FillList(*cboMonth[2], LunarMonths(), 0);
+  FillList(cboYearInMet, YearsOfMetCycle(), 0);
+  FillList(*cboDay[0], Numbers(31), 0);
+  FillList(*cboDay[1], Numbers(31), 0);
+  FillList(*cboDay[2], Numbers(30), 0);
+  FillList(cboMType, {u"A", u"B", u"C"}, 0);
+  FillList(cboGMet, {u"GMet-1", u"GMet-2"}, 1);
+}
