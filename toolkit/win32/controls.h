@@ -1,0 +1,90 @@
+// The controls of the window, each on the native control of its kind.
+#pragma once
+
+#include "main_window.h"
+
+namespace Win32 {
+
+class Frame : public Toolkit::Frame, public Native {
+ public:
+  Frame(MainWindow& window, const Toolkit::StoredControl& row);
+
+ private:
+  const Toolkit::Coloured* Colours() const override { return this; }
+  void ApplyBackColor() override;
+};
+
+class Label : public Toolkit::Label, public Native {
+ public:
+  Label(MainWindow& window, const Toolkit::StoredControl& row);
+
+ private:
+  const Toolkit::Coloured* Colours() const override { return this; }
+  void ApplyBackColor() override;
+  void ApplyCaption() override;
+};
+
+class TextBox : public Toolkit::TextBox, public Native {
+ public:
+  TextBox(MainWindow& window, const Toolkit::StoredControl& row);
+  std::u16string Text() const override { return TextOf(hwnd_); }
+  std::int32_t TextLength() const override { return GetWindowTextLengthW(hwnd_); }
+  void AppendText(std::u16string_view text) override;
+  void SetSelStart(std::int32_t position) override;
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam,
+                                    UINT_PTR id, DWORD_PTR self);
+  bool Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
+  LRESULT WantedKeys(const MSG* key) const;
+  void ApplyText(std::u16string_view text) override;
+  Selection SelectedText() const override;
+  void SelectText(Selection selection) override;
+};
+
+class List : public Toolkit::List, public Native {
+ public:
+  List(MainWindow& window, const Toolkit::StoredControl& row);
+  int ListIndex() const override;
+
+ private:
+  void Place() override;
+  void Notified(WORD code) override;
+  void Settled() override;
+  void ApplyNewItem(const std::u16string& item) override;
+  void ApplyClear() override;
+  void ApplyListIndex(int index) override;
+
+  int chosen_ = -1;             // the last choice, whether the user's or the program's
+  bool open_ = false;           // the list is dropped down
+  bool accepted_ = true;        // the list was closed with a choice, not left with Escape
+  std::u16string closed_text_;  // what the line held before the list was opened
+};
+
+class OptionButton : public Toolkit::OptionButton, public Native {
+ public:
+  OptionButton(MainWindow& window, const Toolkit::StoredControl& row, Toolkit::OptionGroup& group);
+
+ private:
+  void Place() override;
+  void Notified(WORD code) override;
+  const Toolkit::Coloured* Colours() const override { return this; }
+  void ApplyBackColor() override;
+  void ApplyValue() override;
+  void ApplyFontBold() override;
+};
+
+class CommandButton : public Toolkit::CommandButton, public Native {
+ public:
+  CommandButton(MainWindow& window, const Toolkit::StoredControl& row);
+  bool Visible() const override { return IsWindowVisible(hwnd_) != FALSE; }
+  void SetFocus() override { window_.SetFocusTo(hwnd_); }
+
+ private:
+  void Notified(WORD code) override;
+  void ApplyEnabled() override;
+  bool HasFocus() const override { return window_.Focus() == hwnd_; }
+  void PassFocusOn() override { window_.PassFocusOn(); }
+};
+
+}  // namespace Win32

@@ -1,0 +1,19 @@
+#include "controls.h"
+
+namespace Win32 {
+
+Label::Label(MainWindow& window, const Toolkit::StoredControl& row)
+    : Toolkit::Label(row.text),
+      Native(window, row,
+             {L"STATIC", (row.properties.centred ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
+                             SS_NOPREFIX | WS_GROUP}) {}
+
+void Label::ApplyBackColor() {
+  InvalidateRect(hwnd_, nullptr, TRUE);
+}
+
+void Label::ApplyCaption() {
+  SetWindowTextW(hwnd_, Wide(Caption()));
+}
+
+}  // namespace Win32

@@ -1,0 +1,102 @@
+#include "controls.h"
+
+namespace Win32 {
+
+namespace {
+
+constexpr int ItemsShown = 12;
+constexpr WPARAM ClosedPart = static_cast<WPARAM>(-1);  // the item height of the closed list
+
+Native::Style StyleOf(const Toolkit::StoredControl& row) {
+  const DWORD line = row.properties.typed_in ? CBS_DROPDOWN | CBS_AUTOHSCROLL : CBS_DROPDOWNLIST;
+  return {L"COMBOBOX", line | WS_VSCROLL | WS_TABSTOP | WS_GROUP};
+}
+
+}  // namespace
+
+List::List(MainWindow& window, const Toolkit::StoredControl& row)
+    : Native(window, row, StyleOf(row)) {
+  if (row.properties.typed_in) SetWindowTextW(hwnd_, Wide(row.text.data()));
+}
+
+void List::Place() {
+  Native::Place();
+  // The height that a combined list is given is that of its open list; the closed one is as high as
+  // its font wants it. Bring it to the height of the row.
+  const auto item = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
+  const int height = Pixels(row_.height, window_.Dpi());
+  RECT closed;
+  GetWindowRect(hwnd_, &closed);
+  const auto text_height = static_cast<int>(Send(CB_GETITEMHEIGHT, ClosedPart));
+  Send(CB_SETITEMHEIGHT, ClosedPart, text_height + height - (closed.bottom - closed.top));
+  SetWindowPos(hwnd_, nullptr, 0, 0, closed.right - closed.left, height + ItemsShown * item + 2,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  // Placing a list selects the text in its line.
+  Send(CB_SETEDITSEL, 0, 0);
+}
+
+// A list that is browsed still holds the last choice, and typed text is none.
+int List::ListIndex() const {
+  if (open_ || chosen_ < 0) return chosen_;
+  return static_cast<int>(Send(CB_GETCURSEL));
+}
+
+void List::Notified(WORD code) {
+  switch (code) {
+    case CBN_DROPDOWN:
+      open_ = true;
+      closed_text_ = TextOf(hwnd_);
+      break;
+    case CBN_SELENDOK:
+      accepted_ = true;
+      break;
+    case CBN_SELENDCANCEL:
+      accepted_ = false;
+      break;
+    case CBN_CLOSEUP:
+      open_ = false;
+      PostSettle();
+      break;
+    case CBN_SELCHANGE:
+      // In an open list the arrows only browse. The order of the notifications differs between
+      // mouse, keys and versions of the platform, so what they come to is looked at when all are
+      // in.
+      if (!open_) PostSettle();
+      break;
+    case CBN_EDITCHANGE:
+      chosen_ = -1;
+      break;
+    default:
+      break;
+  }
+}
+
+void List::Settled() {
+  if (open_) return;
+  if (!accepted_) {
+    accepted_ = true;
+    Send(CB_SETCURSEL, static_cast<WPARAM>(chosen_));
+    if (chosen_ < 0) SetWindowTextW(hwnd_, Wide(closed_text_));
+    return;
+  }
+  const auto now = static_cast<int>(Send(CB_GETCURSEL));
+  if (now < 0 || now == chosen_) return;
+  chosen_ = now;
+  if (Click) Click();
+}
+
+void List::ApplyNewItem(const std::u16string& item) {
+  Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
+}
+
+void List::ApplyClear() {
+  chosen_ = -1;
+  Send(CB_RESETCONTENT);
+}
+
+void List::ApplyListIndex(int index) {
+  chosen_ = index;
+  Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+}
+
+}  // namespace Win32

@@ -1,0 +1,219 @@
+#include "main_window.h"
+
+namespace Win32 {
+
+namespace {
+
+constexpr wchar_t ClassName[] = L"TandemWindow";
+constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
+constexpr UINT_PTR TimerId = 1;
+constexpr COLORREF Black = RGB(0, 0, 0);
+
+// The outer size of a window whose client area is `width` by `height` pixels.
+SIZE OuterSize(int width, int height, int dpi) {
+  RECT rect = {0, 0, width, height};
+  using Adjust = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
+  static const auto adjust_for_dpi = reinterpret_cast<Adjust>(reinterpret_cast<void*>(
+      GetProcAddress(GetModuleHandleW(L"user32.dll"), "AdjustWindowRectExForDpi")));
+  if (adjust_for_dpi) {
+    adjust_for_dpi(&rect, WindowStyle, FALSE, 0, static_cast<UINT>(dpi));
+  } else {
+    AdjustWindowRectEx(&rect, WindowStyle, FALSE, 0);
+  }
+  return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+}  // namespace
+
+MainWindow::MainWindow(int client_width, int client_height)
+    : client_width_(client_width), client_height_(client_height) {
+  WNDCLASSEXW window_class = {};
+  window_class.cbSize = sizeof window_class;
+  window_class.lpfnWndProc = Procedure;
+  window_class.cbWndExtra = DLGWINDOWEXTRA;
+  window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+  window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
+  window_class.lpszClassName = ClassName;
+  RegisterClassExW(&window_class);
+
+  // A dialog comes from a template; this one holds no controls. Behind the header follow, as texts,
+  // the menu (none), the class and the caption (empty).
+  struct {
+    DLGTEMPLATE header;
+    WORD menu;
+    wchar_t class_name[std::size(ClassName)];
+    WORD caption;
+  } dialog = {{WindowStyle, 0, 0, 0, 0, 0, 0}, 0, {}, 0};
+  std::copy(std::begin(ClassName), std::end(ClassName), dialog.class_name);
+  hwnd_ = CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0);
+  SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  Resize(DpiOf(hwnd_));
+}
+
+int MainWindow::RunLoop() {
+  Centre();
+  ShowWindow(hwnd_, SW_SHOWDEFAULT);
+  MSG message;
+  while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (IsDialogMessageW(hwnd_, &message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
+  return static_cast<int>(message.wParam);
+}
+
+void MainWindow::End() {
+  DestroyWindow(hwnd_);
+}
+
+void MainWindow::Enable(int milliseconds) {
+  SetTimer(hwnd_, TimerId, static_cast<UINT>(milliseconds), nullptr);
+}
+
+HWND MainWindow::Focus() const {
+  const HWND focus = GetFocus();
+  return IsActive() && focus ? focus : remembered_focus_;
+}
+
+void MainWindow::SetFocusTo(HWND control) {
+  if (Focus() == control) return;
+  remembered_focus_ = control;
+  // The dialog manager's own way of setting the focus, so that the right button has the frame of
+  // the default one.
+  if (IsActive()) {
+    SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
+  }
+}
+
+void MainWindow::PassFocusOn() {
+  SetFocusTo(GetNextDlgTabItem(hwnd_, Focus(), FALSE));
+}
+
+void MainWindow::RememberFocus() {
+  const HWND focus = GetFocus();
+  if (focus && IsChild(hwnd_, focus)) remembered_focus_ = focus;
+}
+
+LRESULT CALLBACK MainWindow::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+  auto* const self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  if (!self) return DefDlgProcW(hwnd, message, wparam, lparam);
+  return self->Handle(message, wparam, lparam);
+}
+
+LRESULT MainWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+  switch (message) {
+    case WM_ACTIVATE:
+      // The dialog manager would give the focus back to a control that may have turned disabled in
+      // the meantime; the focus is then on nothing.
+      if (LOWORD(wparam) == WA_INACTIVE) {
+        RememberFocus();
+      } else {
+        Activated();
+      }
+      return 0;
+    case WM_SETFOCUS:
+      if (remembered_focus_) ::SetFocus(remembered_focus_);
+      return 0;
+    case WM_SYSCOMMAND:
+      if ((wparam & 0xFFF0) == SC_MINIMIZE) RememberFocus();
+      break;
+    case WM_SIZE:
+      // A minimised window cannot give the focus to a control.
+      if (wparam == SIZE_RESTORED && IsActive() && remembered_focus_) ::SetFocus(remembered_focus_);
+      break;
+    case WM_COMMAND:
+      Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
+      return 0;
+    case SettleMessage:
+      Native::Of(reinterpret_cast<HWND>(wparam))->Settled();
+      return 0;
+    case WM_TIMER:
+      if (wparam == TimerId && Tick) Tick();
+      return 0;
+    case WM_CLOSE:
+      if (Unload) Unload();
+      return 0;
+    case WM_DESTROY:
+      PostQuitMessage(0);
+      return 0;
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+      if (const HBRUSH brush =
+              PaintGround(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam))) {
+        return reinterpret_cast<LRESULT>(brush);
+      }
+      break;
+    case WM_ERASEBKGND: {
+      if (BackColor() == UsualColor) break;
+      const auto dc = reinterpret_cast<HDC>(wparam);
+      RECT client;
+      GetClientRect(hwnd_, &client);
+      SetDCBrushColor(dc, static_cast<COLORREF>(BackColor()));
+      FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+      return TRUE;
+    }
+    default:
+      break;
+  }
+  return DefDlgProcW(hwnd_, message, wparam, lparam);
+}
+
+void MainWindow::Activated() {
+  if (!remembered_focus_) remembered_focus_ = GetNextDlgTabItem(hwnd_, nullptr, FALSE);
+  ::SetFocus(remembered_focus_);
+  NoteActivated();
+}
+
+void MainWindow::Command(WORD id, WORD code, HWND control) {
+  if (id == IDOK) {
+    // Enter, and no button has the frame of the default one, as after a click with the mouse: it
+    // presses the button that has the focus. Escape comes as IDCANCEL and does nothing.
+    control = Focus();
+    code = BN_CLICKED;
+    if (!(SendMessageW(control, WM_GETDLGCODE, 0, 0) &
+          (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON))) {
+      return;
+    }
+  }
+  if (Native* const native = control ? Native::Of(control) : nullptr) native->Notified(code);
+}
+
+HBRUSH MainWindow::PaintGround(HDC dc, HWND control) const {
+  const Native* const native = Native::Of(control);
+  const Toolkit::Coloured* const colours = native ? native->Colours() : nullptr;
+  if (!colours || colours->BackColor() == UsualColor) return nullptr;
+  // Black under every theme: the yellow does not change with it.
+  SetTextColor(dc, Black);
+  SetBkColor(dc, static_cast<COLORREF>(colours->BackColor()));
+  SetDCBrushColor(dc, static_cast<COLORREF>(colours->BackColor()));
+  return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+}
+
+void MainWindow::Resize(int dpi) {
+  dpi_ = dpi;
+  const SIZE size = OuterSize(Pixels(client_width_, dpi), Pixels(client_height_, dpi), dpi);
+  SetWindowPos(hwnd_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void MainWindow::Centre() {
+  MONITORINFO monitor = {};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTOPRIMARY), &monitor);
+  const RECT& area = monitor.rcWork;
+  RECT window;
+  GetWindowRect(hwnd_, &window);
+  SetWindowPos(hwnd_, nullptr, (area.left + area.right - (window.right - window.left)) / 2,
+               (area.top + area.bottom - (window.bottom - window.top)) / 2, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void MainWindow::ApplyCaption() {
+  SetWindowTextW(hwnd_, Wide(Caption()));
+}
+
+void MainWindow::ApplyBackColor() {
+  InvalidateRect(hwnd_, nullptr, TRUE);
+}
+
+}  // namespace Win32

@@ -1,0 +1,48 @@
+// The program's one window. It is a dialog of a class of its own, so that the platform's dialog
+// manager does the keyboard navigation.
+#pragma once
+
+#include "native.h"
+
+namespace Win32 {
+
+class MainWindow : public Toolkit::Window, public Toolkit::Timer {
+ public:
+  MainWindow(int client_width, int client_height);
+
+  HWND Handle() const { return hwnd_; }
+  int Dpi() const { return dpi_; }
+
+  int RunLoop();
+  void End();
+  void Enable(int milliseconds) override;
+
+  // The control that has the focus, or that gets it when the window is active again.
+  HWND Focus() const;
+  void SetFocusTo(HWND control);
+  void PassFocusOn();
+
+ private:
+  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
+  LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+  void ApplyCaption() override;
+  void ApplyBackColor() override;
+
+  bool IsActive() const { return GetActiveWindow() == hwnd_; }
+  void RememberFocus();
+  void Activated();
+  void Command(WORD id, WORD code, HWND control);
+  HBRUSH PaintGround(HDC dc, HWND control) const;
+  void Resize(int dpi);
+  void Centre();
+
+  int client_width_, client_height_;  // twips
+  HWND hwnd_ = nullptr;
+  int dpi_ = 96;
+  HWND remembered_focus_ = nullptr;
+};
+
+// Posted to the window by Native::PostSettle with the control as WPARAM.
+inline constexpr UINT SettleMessage = WM_APP;
+
+}  // namespace Win32

@@ -1,0 +1,75 @@
+#include "native.h"
+
+#include <map>
+#include <tuple>
+
+#include "main_window.h"
+
+namespace Win32 {
+
+namespace {
+
+// Dialogs answer to 1 and 2 as OK and Cancel, so the numbers of the controls begin higher.
+constexpr int FirstControlId = 100;
+
+}  // namespace
+
+int DpiOf(HWND window) {
+  // Windows before 10 has one DPI for everything and lacks the function.
+  using GetDpi = UINT(WINAPI*)(HWND);
+  static const auto get_dpi = reinterpret_cast<GetDpi>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+  if (get_dpi) return static_cast<int>(get_dpi(window));
+  const HDC screen = GetDC(nullptr);
+  const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  return dpi;
+}
+
+HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi) {
+  static std::map<std::tuple<std::u16string_view, int, bool>, HFONT> fonts;
+  const int height = Pixels(font.height, dpi);
+  HFONT& made = fonts[{font.face, height, bold}];
+  if (!made) {
+    made = CreateFontW(-height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
+                       DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
+                       DEFAULT_PITCH | FF_DONTCARE, Wide(font.face.data()));
+  }
+  return made;
+}
+
+std::u16string TextOf(HWND window) {
+  std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)), u'\0');
+  // The length without the zero, which may be less than was announced.
+  const int length = GetWindowTextW(window, reinterpret_cast<wchar_t*>(text.data()),
+                                    static_cast<int>(text.size()) + 1);
+  text.resize(static_cast<std::size_t>(length));
+  return text;
+}
+
+Native::Native(MainWindow& window, const Toolkit::StoredControl& row, Style style)
+    : window_(window), row_(row) {
+  hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
+                          WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Handle(),
+                          reinterpret_cast<HMENU>(INT_PTR{FirstControlId + row.tab}),
+                          GetModuleHandleW(nullptr), nullptr);
+  SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+}
+
+void Native::Place() {
+  const int dpi = window_.Dpi();
+  SetWindowPos(hwnd_, nullptr, Pixels(row_.container.left + row_.left, dpi),
+               Pixels(row_.container.top + row_.top, dpi), Pixels(row_.width, dpi),
+               Pixels(row_.height, dpi), SWP_NOZORDER | SWP_NOACTIVATE);
+  UseFont(false);
+}
+
+void Native::UseFont(bool bold) {
+  Send(WM_SETFONT, reinterpret_cast<WPARAM>(FontAt(row_.font, bold, window_.Dpi())), TRUE);
+}
+
+void Native::PostSettle() {
+  PostMessageW(window_.Handle(), SettleMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
+}
+
+}  // namespace Win32

@@ -1,0 +1,72 @@
+// What all the controls have in common: the native window behind each, how it is made, where it
+// stands and which font it has.
+#pragma once
+
+#include <windows.h>
+
+#include <string_view>
+
+#include "toolkit.h"
+
+namespace Win32 {
+
+// A char16_t is a wchar_t here. The text must end with a zero, as a std::u16string does.
+inline const wchar_t* Wide(const char16_t* text) {
+  return reinterpret_cast<const wchar_t*>(text);
+}
+inline const wchar_t* Wide(const std::u16string& text) {
+  return Wide(text.c_str());
+}
+
+inline int Pixels(int twips, int dpi) {
+  return MulDiv(twips, dpi, 1440);
+}
+
+// The dots per inch that the window is drawn with.
+int DpiOf(HWND window);
+
+// The font for a control at `dpi`; made once, kept for the life of the program.
+HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi);
+
+// The text of a window.
+std::u16string TextOf(HWND window);
+
+class MainWindow;
+
+class Native {
+ public:
+  struct Style {
+    const wchar_t* window_class;
+    DWORD style;
+    DWORD ex_style = 0;
+  };
+  Native(MainWindow& window, const Toolkit::StoredControl& row, Style style);
+  virtual ~Native() = default;
+  Native(const Native&) = delete;
+  Native& operator=(const Native&) = delete;
+
+  // The object behind a child of the main window.
+  static Native* Of(HWND hwnd) {
+    return reinterpret_cast<Native*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+  }
+
+  // Puts the control where its row has it, and gives it its font.
+  virtual void Place();
+
+  virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND
+  virtual void Settled() {}       // what PostSettle has asked for
+  virtual const Toolkit::Coloured* Colours() const { return nullptr; }
+
+ protected:
+  void UseFont(bool bold);
+  void PostSettle();  // calls Settled once the message that is being handled is done with
+  LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
+    return SendMessageW(hwnd_, message, wparam, lparam);
+  }
+
+  MainWindow& window_;
+  const Toolkit::StoredControl& row_;
+  HWND hwnd_;
+};
+
+}  // namespace Win32

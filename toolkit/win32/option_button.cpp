@@ -1,0 +1,33 @@
+#include "controls.h"
+
+namespace Win32 {
+
+// The arrow keys move within a group, which begins at its first button.
+OptionButton::OptionButton(MainWindow& window, const Toolkit::StoredControl& row,
+                           Toolkit::OptionGroup& group)
+    : Toolkit::OptionButton(group),
+      Native(window, row,
+             {L"BUTTON", BS_AUTORADIOBUTTON | (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
+
+void OptionButton::Place() {
+  Native::Place();
+  UseFont(FontBold());
+}
+
+void OptionButton::Notified(WORD code) {
+  if (code == BN_CLICKED) NoteChosen();
+}
+
+void OptionButton::ApplyBackColor() {
+  InvalidateRect(hwnd_, nullptr, TRUE);
+}
+
+void OptionButton::ApplyValue() {
+  Send(BM_SETCHECK, Value() ? BST_CHECKED : BST_UNCHECKED);
+}
+
+void OptionButton::ApplyFontBold() {
+  UseFont(FontBold());
+}
+
+}  // namespace Win32

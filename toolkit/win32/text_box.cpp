@@ -1,0 +1,111 @@
+#include "controls.h"
+
+#include <commctrl.h>
+
+namespace Win32 {
+
+namespace {
+
+constexpr WPARAM NoLimit = 0x7FFFFFFE;  // the most that the native control takes
+constexpr WPARAM CtrlA = 1;             // the character that Ctrl+A types
+
+Native::Style StyleOf(const Toolkit::StoredControl& row) {
+  const DWORD lines = row.properties.several_lines
+                          ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL
+                          : ES_AUTOHSCROLL;
+  return {L"EDIT", lines | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE};
+}
+
+bool IsDown(int key) {
+  return GetKeyState(key) < 0;
+}
+
+// The shift state that a key event reports: 1 for Shift, 2 for Ctrl, 4 for Alt.
+std::int16_t ShiftState() {
+  return static_cast<std::int16_t>((IsDown(VK_SHIFT) ? 1 : 0) | (IsDown(VK_CONTROL) ? 2 : 0) |
+                                   (IsDown(VK_MENU) ? 4 : 0));
+}
+
+}  // namespace
+
+TextBox::TextBox(MainWindow& window, const Toolkit::StoredControl& row)
+    : Native(window, row, StyleOf(row)) {
+  const int most = row.properties.max_length;
+  Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
+  SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+}
+
+LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                    DWORD_PTR self) {
+  LRESULT result = 0;
+  if (reinterpret_cast<TextBox*>(self)->Handle(message, wparam, lparam, result)) return result;
+  return DefSubclassProc(hwnd, message, wparam, lparam);
+}
+
+// Tells whether the message has been dealt with.
+bool TextBox::Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+  switch (message) {
+    case WM_GETDLGCODE:
+      result = WantedKeys(reinterpret_cast<const MSG*>(lparam));
+      return true;
+    case WM_KEYDOWN:
+      NoteKeyDown(static_cast<std::int16_t>(wparam), (HIWORD(lparam) & KF_REPEAT) != 0);
+      return false;
+    case WM_KEYUP:
+      NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
+      return false;
+    case WM_KILLFOCUS:
+      NoteFocusLost();
+      return false;
+    case WM_CHAR:
+      if (wparam == CtrlA) SelectText({0, -1});
+      // A box of one line would beep at Enter.
+      return wparam == CtrlA || (wparam == VK_RETURN && !row_.properties.several_lines);
+    default:
+      return false;
+  }
+}
+
+// What the dialog manager leaves to the box. The native answer is not asked for: a pane that knows
+// that it stands in a dialog closes that at Escape.
+LRESULT TextBox::WantedKeys(const MSG* key) const {
+  const bool key_down = key && key->message == WM_KEYDOWN;
+  if (row_.properties.several_lines) {
+    // Tab leaves the pane, Ctrl+Tab types a tab. Without DLGC_HASSETSEL: coming in by Tab must not
+    // select the whole log, which the next key would replace.
+    const bool leaves =
+        key_down && (key->wParam == VK_ESCAPE || (key->wParam == VK_TAB && !IsDown(VK_CONTROL)));
+    return DLGC_WANTCHARS | DLGC_WANTARROWS | (leaves ? 0 : DLGC_WANTALLKEYS);
+  }
+  // Enter counts when it comes up, and for that the box must have seen it go down.
+  const bool enter = key_down && key->wParam == VK_RETURN;
+  return DLGC_WANTCHARS | DLGC_WANTARROWS | DLGC_HASSETSEL | (enter ? DLGC_WANTALLKEYS : 0);
+}
+
+void TextBox::AppendText(std::u16string_view text) {
+  const std::int32_t end = TextLength();
+  SelectText({end, end});
+  Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(std::u16string(text).c_str()));
+}
+
+void TextBox::SetSelStart(std::int32_t position) {
+  SelectText({position, position});
+  Send(EM_SCROLLCARET);
+}
+
+void TextBox::ApplyText(std::u16string_view text) {
+  SetWindowTextW(hwnd_, Wide(std::u16string(text)));
+}
+
+TextBox::Selection TextBox::SelectedText() const {
+  DWORD start = 0;
+  DWORD end = 0;
+  Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+  return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
+}
+
+void TextBox::SelectText(Selection selection) {
+  Send(EM_SETSEL, static_cast<WPARAM>(selection.start), selection.end);
+}
+
+}  // namespace Win32

@@ -1,0 +1,25 @@
+// The toolkit on the Win32 API, for a program that need not know what that is.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "toolkit.h"
+
+namespace Win32 {
+
+class Desktop : public Toolkit::Desktop {
+ public:
+  // Brings the window to the screen, in the middle of it, and serves it until the program ends.
+  // Returns the exit code of the program.
+  virtual int Run() = 0;
+};
+
+// A desktop with a window whose client area has this size in twips. The window is not on the screen
+// yet. One desktop a program.
+std::unique_ptr<Desktop> NewDesktop(int client_width, int client_height);
+
+// Today's local date as a text of the form mm-dd-yyyy.
+std::u16string LocalDate();
+
+}  // namespace Win32
