@@ -1,0 +1,11 @@
+#include "main_window.h"
+#include "program_version.h"
+#include "win32_toolkit.h"
+
+int main() {
+  DatePr2::SystemDate = Win32::LocalDate;
+  const auto desktop = Win32::NewDesktop(ClientWidth, ClientHeight);
+  frmMain form(*desktop, {PROGRAM_VERSION_MAJOR, PROGRAM_VERSION_MINOR}, PROGRAM_COPYRIGHT_UTF16);
+  form.Form_Load();
+  return desktop->Run();
+}
