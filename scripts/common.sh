@@ -1,0 +1,61 @@
+# What ./run and ./test share: packages, the Windows build, Wine's prefix, a display.
+
+say() { printf '%s\n' "$*"; }
+
+# Installs those packages of a stage that are missing. Fails, with the reason on the screen, where
+# that cannot be done.
+install_packages() {
+  local missing=() package root=()
+  while read -r package; do
+    dpkg-query -W -f '${Status}\n' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
+      missing+=("$package")
+  done < <(awk -v stage="$1" '$1 == stage { print $2 }' scripts/packages.txt)
+  [ ${#missing[@]} -eq 0 ] && return 0
+  command -v apt-get >/dev/null || { say "no apt-get to install: ${missing[*]}"; return 1; }
+  [ "$(id -u)" -eq 0 ] || root=(sudo)
+  say "Installing ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  "${root[@]}" apt-get update -qq &&
+    "${root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >build/packages.log
+}
+
+# Configures and builds one preset.
+build() {
+  cmake --preset "$1" >"build/$1.log" || { cat "build/$1.log"; return 1; }
+  cmake --build --preset "$1" -- --quiet
+}
+
+# Makes Wine's prefix: its own folder below build, so that nothing of the user's is touched. $1 is
+# "desktop" where Wine is to draw a desktop of its own, with title bars and a working focus on a
+# display that has no window manager.
+prepare_wine() {
+  export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+  [ -f "$WINEPREFIX/ready" ] && return 0
+  rm -rf "$WINEPREFIX"
+  wineboot --init >/dev/null 2>&1
+  # Debian's Wine does not look into the folder where Debian puts its fonts.
+  ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
+  wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Courier New' /d 'Liberation Mono' /f
+  if [ "$1" = desktop ]; then
+    wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Tandem /f
+    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d 1280x800 /f
+  fi
+  wineserver -w # the registry is written when the last program has ended
+  touch "$WINEPREFIX/ready"
+}
+
+# Starts a display for this shell and the programs it starts; it ends with the shell.
+start_display() {
+  local number_file
+  number_file=$(mktemp)
+  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+  display_process=$!
+  trap 'wineserver -k >/dev/null 2>&1; kill $display_process 2>/dev/null' EXIT
+  until [ -s "$number_file" ]; do
+    kill -0 $display_process 2>/dev/null || { say "Xvfb does not start"; return 1; }
+    sleep 0.1
+  done
+  DISPLAY=:$(cat "$number_file")
+  export DISPLAY
+  rm -f "$number_file"
+}
