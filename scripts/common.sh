@@ -50,7 +50,7 @@ start_display() {
   number_file=$(mktemp)
   Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
   display_process=$!
-  trap 'wineserver -k >/dev/null 2>&1; kill $display_process 2>/dev/null' EXIT
+  trap end_display EXIT
   until [ -s "$number_file" ]; do
     kill -0 $display_process 2>/dev/null || { say "Xvfb does not start"; return 1; }
     sleep 0.1
@@ -58,4 +58,9 @@ start_display() {
   DISPLAY=:$(cat "$number_file")
   export DISPLAY
   rm -f "$number_file"
+}
+
+end_display() {
+  wineserver -k >/dev/null 2>&1 || true # there may be none
+  kill "$display_process" 2>/dev/null || true
 }
