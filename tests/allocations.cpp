@@ -9,5 +9,9 @@ void* operator new(std::size_t size) {
   if (void* const memory = std::malloc(size)) return memory;
   std::abort();
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}

@@ -21,16 +21,22 @@ List::List(MainWindow& window, const Toolkit::StoredControl& row)
 
 void List::Place() {
   Native::Place();
-  // The height that a combined list is given is that of its open list; the closed one is as high as
-  // its font wants it. Bring it to the height of the row.
+  // The height that a combined list is given is that of its open list.
   const auto item = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
   const int height = Pixels(row_.height, window_.Dpi());
-  RECT closed;
-  GetWindowRect(hwnd_, &closed);
-  const auto text_height = static_cast<int>(Send(CB_GETITEMHEIGHT, ClosedPart));
-  Send(CB_SETITEMHEIGHT, ClosedPart, text_height + height - (closed.bottom - closed.top));
-  SetWindowPos(hwnd_, nullptr, 0, 0, closed.right - closed.left, height + ItemsShown * item + 2,
-               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  SetWindowPos(hwnd_, nullptr, 0, 0, Pixels(row_.width, window_.Dpi()),
+               height + ItemsShown * item + 2, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
+  // Wine adds 2 to what it is told.
+  LRESULT text_height = Send(CB_GETITEMHEIGHT, ClosedPart);
+  for (int tries = 0; tries < 2; ++tries) {
+    RECT closed;
+    GetWindowRect(hwnd_, &closed);
+    const int missing = height - (closed.bottom - closed.top);
+    if (missing == 0) break;
+    text_height += missing;
+    Send(CB_SETITEMHEIGHT, ClosedPart, text_height);
+  }
   // Placing a list selects the text in its line.
   Send(CB_SETEDITSEL, 0, 0);
 }
