@@ -14,8 +14,7 @@ struct {
 } values;
 
 std::u16string BuildMetCycleTypes() {
-  // 16 cycles of 235 months drift least with this order of 6940 and 6939 days; the single C takes
-  // one month out of the great cycle.
+  // The one C takes a month out of the great cycle.
   const std::u16string aba = u"ABA";
   const std::u16string block16 = aba + aba + aba + u"A" + aba + aba;
   const std::u16string block64 = block16 + block16 + block16 + block16;

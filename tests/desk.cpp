@@ -43,10 +43,7 @@ Picture Draw(int width, int height, const std::function<void(HDC)>& draw) {
   draw(dc);
   GdiFlush();
   Picture picture = {width, height, {}};
-  for (int i = 0; i < width * height; ++i) {
-    const std::uint32_t p = pixels[i];
-    picture.dark += (p & 255) + (p >> 8 & 255) + (p >> 16 & 255) < 300 ? 1 : 0;
-  }
+  for (int i = 0; i < width * height; ++i) picture.pixels.push_back(pixels[i] & 0xFFFFFF);
   SelectObject(dc, before);
   DeleteObject(bitmap);
   DeleteDC(dc);
@@ -58,6 +55,8 @@ Picture Draw(int width, int height, const std::function<void(HDC)>& draw) {
 bool Wait(const std::function<bool()>& condition, DWORD limit) {
   const DWORD start = GetTickCount();
   while (!condition()) {
+    MSG message;  // for windows that the test has opened itself
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
     if (GetTickCount() - start > limit) return false;
     Sleep(2);
   }
@@ -161,6 +160,13 @@ Picture PictureOfIcon(const wchar_t* icon, COLORREF ground) {
   });
 }
 
+Picture InBlackAndWhite(Picture picture) {
+  for (COLORREF& p : picture.pixels) {
+    p = GetRValue(p) + GetGValue(p) + GetBValue(p) < 300 ? RGB(0, 0, 0) : RGB(255, 255, 255);
+  }
+  return picture;
+}
+
 double Difference(const Picture& part, const Picture& whole) {
   double least = 1;
   for (int top = 0; top + part.height <= whole.height; ++top) {
@@ -168,15 +174,33 @@ double Difference(const Picture& part, const Picture& whole) {
       int differ = 0;
       for (int y = 0; y < part.height; ++y) {
         for (int x = 0; x < part.width; ++x) {
-          const int there = (top + y) * whole.width + left + x;
-          differ += part.dark[static_cast<std::size_t>(y * part.width + x)] !=
-                    whole.dark[static_cast<std::size_t>(there)];
+          const auto here = static_cast<std::size_t>(y * part.width + x);
+          const auto there = static_cast<std::size_t>((top + y) * whole.width + left + x);
+          differ += part.pixels[here] != whole.pixels[there];
         }
       }
-      least = std::min(least, double(differ) / double(part.dark.size()));
+      least = std::min(least, double(differ) / double(part.pixels.size()));
     }
   }
   return least;
+}
+
+void PutSpot(HWND window) {
+  const auto put = [](HDC dc, int x, int y) {
+    for (int i = 0; i < 4; ++i) SetPixel(dc, x + i, y, Spot);
+    GdiFlush();
+  };
+  const HDC own = GetDC(window);
+  put(own, 4, 3);
+  ReleaseDC(window, own);
+  // Wine does not let one program draw into the window of another, but onto the screen.
+  const Picture now = PictureOf(window);
+  if (std::count(now.pixels.begin(), now.pixels.end(), Spot) > 0) return;
+  RECT rect;
+  GetWindowRect(window, &rect);
+  const HDC screen = GetDC(nullptr);
+  put(screen, rect.left + 4, rect.top + 3);
+  ReleaseDC(nullptr, screen);
 }
 
 Tandem::Tandem() {
@@ -271,6 +295,7 @@ void Tandem::Pick(HWND list, View item) const {
   const LRESULT wanted = SendMessageW(list, CB_FINDSTRINGEXACT, static_cast<WPARAM>(-1),
                                       reinterpret_cast<LPARAM>(Wide(Text(item))));
   if (SendMessageW(list, CB_GETCURSEL, 0, 0) == wanted || !GoTo(list)) return;
+  Mouse(0, {0, 0});  // an open list follows the mouse that lies over it
   Press(VK_F4);
   Wait([&] { return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0; });
   for (LRESULT now = SendMessageW(list, CB_GETCURSEL, 0, 0); now != wanted;
@@ -287,6 +312,7 @@ void Tandem::Fill(HWND box, View text) const {
   if (!GoTo(box)) return;
   Press('A', {VK_CONTROL});
   Press(VK_DELETE);
+  Wait([&] { return TextOf(box).empty(); });
   Type(text);
   Wait([&] { return TextOf(box) == text; });
 }
@@ -329,8 +355,11 @@ void Tandem::TickPasses() const {
 }
 
 HWND Tandem::FindBox() const {
-  const HWND box = GetWindow(window_, GW_ENABLEDPOPUP);
-  return box == window_ || !IsWindowVisible(box) ? nullptr : box;
+  HWND box = nullptr;
+  do {
+    box = FindWindowExW(nullptr, box, L"#32770", nullptr);
+  } while (box && GetWindow(box, GW_OWNER) != window_);
+  return box;
 }
 
 MessageBox Tandem::WaitForBox() const {
@@ -345,15 +374,14 @@ MessageBox Tandem::WaitForBox() const {
     if (is_icon) icon = child;
     if (!is_icon) box.text = TextOf(child);
   }
-  const auto difference = [&](const wchar_t* name) {
-    return Difference(PictureOfIcon(name, GetSysColor(COLOR_3DFACE)), PictureOf(icon));
-  };
   Wait(
       [&] {  // until it is drawn
-        const double exclamation = difference(IDI_EXCLAMATION);
-        const double information = difference(IDI_INFORMATION);
+        const Picture drawn = PictureOf(icon);
+        const COLORREF ground = drawn.pixels.front();
+        const double exclamation = Difference(PictureOfIcon(IDI_EXCLAMATION, ground), drawn);
+        const double information = Difference(PictureOfIcon(IDI_INFORMATION, ground), drawn);
         box.icon = exclamation < information ? 48 : 64;
-        return std::min(exclamation, information) < 0.05;
+        return std::min(exclamation, information) < 0.1;
       },
       3000);
   return box;

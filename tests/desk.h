@@ -30,17 +30,22 @@ void Click(POINT place);
 void ClickOn(HWND window);
 void Wheel(HWND window, int notches);
 
-// The picture of a window, one byte a pixel: whether it is dark.
+// What can be seen on the screen, pixel by pixel, from the top left.
 struct Picture {
   int width, height;
-  std::string dark;
+  std::vector<COLORREF> pixels;
 };
 Picture PictureOf(HWND window);
 Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, int dpi);
 Picture PictureOfIcon(const wchar_t* icon, COLORREF ground);
+Picture InBlackAndWhite(Picture picture);
 
-// The smallest part of the pixels by which `part` differs from `whole`, wherever it is laid on it.
+// The smallest part of its pixels by which `part` differs from `whole`, wherever it is laid on it.
 double Difference(const Picture& part, const Picture& whole);
+
+// Draws a small spot onto a window, which stays until the window is painted anew.
+constexpr COLORREF Spot = RGB(255, 0, 255);  // nothing of ours has this colour
+void PutSpot(HWND window);
 
 struct MessageBox {
   HWND window;
@@ -59,6 +64,7 @@ class Tandem {
   HWND Control(const Toolkit::StoredControl& row) const { return Control(row.name, row.index); }
   RECT Place(HWND control) const;  // in the client area
 
+  bool IsInFront() const { return GetForegroundWindow() == window_ && Focus(); }
   HWND Focus() const;  // a list counts as focused also when the line in it is
   bool FocusIs(HWND control) const;
   bool GoTo(HWND control) const;          // by Tab

@@ -250,6 +250,7 @@ class Desktop {
   // Empties the clipboard, then puts `text` on it. If that cannot be done it stays as it is.
   virtual void SetClipboardText(std::u16string_view text) = 0;
 
+  // Takes the window off the screen and ends the program with exit code 0, without a question.
   virtual void EndProgram() = 0;
 };
 

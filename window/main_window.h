@@ -10,7 +10,6 @@
 #pragma once
 
 #include <array>
-#include <cassert>
 
 #include "euro_date.h"
 #include "layout.h"
@@ -24,7 +23,7 @@ struct ProgramVersion {
 class frmMain {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout
 
-  // The control of a row of the stored layout, which tells its kind.
+  // The control of a row of the stored layout. `T` must be the class of the row's kind.
   template <class T>
   T& Find(std::u16string_view name, int index = Toolkit::NoIndex);
 
@@ -84,23 +83,26 @@ class frmMain {
   // tick.cpp. Once a second: the same-day sentence, and which commands can be pressed.
   void Timer1_Timer();
 
-  // list_clicks.cpp. A new selection blanks the weekday beside it and hands the focus to Convert.
+  // list_clicks.cpp. A new selection blanks the weekday of its row and hands the focus to Convert.
+  // While the window is being loaded the months and days do nothing.
   void cboGMet_Click();
   void cboYearInMet_Click();
   void cboMonth_Click(std::int16_t Index);
   void cboDay_Click(std::int16_t Index);
-  void FocusConvert();
+  void FocusConvert();  // if the Convert button is visible and enabled
 
-  // step.cpp. Today's date, back one day, forward one day; and the first screen.
+  // step.cpp. Moves all rows to today (0), or to the day before (1) or after (2) the date of the
+  // selected calendar; the pane stays as it is. Form_Activate makes the first screen: today,
+  // converted once.
   void cmdTBF_Click(std::int16_t Index);
   void Form_Activate();
 
-  // small_commands.cpp
-  void optCalendar_Click(std::int16_t Index);
-  void cmdCopy_Click();
-  void cmdClear_Click();
-  void cmdQuit_Click();
-  void Form_Unload();
+  // small_commands.cpp. None of them touches a date.
+  void optCalendar_Click(std::int16_t Index);  // shows the chosen calendar in bold
+  void cmdCopy_Click();                        // the whole pane to the clipboard, as plain text
+  void cmdClear_Click();                       // empties the pane
+  void cmdQuit_Click();                        // ends the program, without a question
+  void Form_Unload();                          // the same, when the window is closed
 
  private:
   void WireEvents();

@@ -1,11 +1,9 @@
 #include "main_window.h"
 
 void frmMain::optCalendar_Click(std::int16_t Index) {
-  // The two others first, so that no two captions are bold at once.
   for (std::int16_t option = 0; option <= 2; ++option) {
-    if (option != Index) optCalendar[static_cast<std::size_t>(option)]->SetFontBold(false);
+    optCalendar[static_cast<std::size_t>(option)]->SetFontBold(option == Index);
   }
-  optCalendar[static_cast<std::size_t>(Index)]->SetFontBold(true);
   FocusConvert();
 }
 

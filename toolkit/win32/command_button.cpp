@@ -2,7 +2,7 @@
 
 namespace Win32 {
 
-CommandButton::CommandButton(MainWindow& window, const Toolkit::StoredControl& row)
+CommandButton::CommandButton(NativeWindow& window, const Toolkit::StoredControl& row)
     : Toolkit::CommandButton(row.text),
       Native(window, row, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP}) {}
 

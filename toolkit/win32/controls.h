@@ -1,13 +1,13 @@
 // The controls of the window, each on the native control of its kind.
 #pragma once
 
-#include "main_window.h"
+#include "native_window.h"
 
 namespace Win32 {
 
 class Frame : public Toolkit::Frame, public Native {
  public:
-  Frame(MainWindow& window, const Toolkit::StoredControl& row);
+  Frame(NativeWindow& window, const Toolkit::StoredControl& row);
 
  private:
   const Toolkit::Coloured* Colours() const override { return this; }
@@ -16,7 +16,7 @@ class Frame : public Toolkit::Frame, public Native {
 
 class Label : public Toolkit::Label, public Native {
  public:
-  Label(MainWindow& window, const Toolkit::StoredControl& row);
+  Label(NativeWindow& window, const Toolkit::StoredControl& row);
 
  private:
   const Toolkit::Coloured* Colours() const override { return this; }
@@ -26,7 +26,7 @@ class Label : public Toolkit::Label, public Native {
 
 class TextBox : public Toolkit::TextBox, public Native {
  public:
-  TextBox(MainWindow& window, const Toolkit::StoredControl& row);
+  TextBox(NativeWindow& window, const Toolkit::StoredControl& row);
   std::u16string Text() const override { return TextOf(hwnd_); }
   std::int32_t TextLength() const override { return GetWindowTextLengthW(hwnd_); }
   void AppendText(std::u16string_view text) override;
@@ -36,6 +36,7 @@ class TextBox : public Toolkit::TextBox, public Native {
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam,
                                     UINT_PTR id, DWORD_PTR self);
   bool Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
+  bool IsTypedTab(WPARAM key) const;
   LRESULT WantedKeys(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
   Selection SelectedText() const override;
@@ -44,7 +45,7 @@ class TextBox : public Toolkit::TextBox, public Native {
 
 class List : public Toolkit::List, public Native {
  public:
-  List(MainWindow& window, const Toolkit::StoredControl& row);
+  List(NativeWindow& window, const Toolkit::StoredControl& row);
   int ListIndex() const override;
 
  private:
@@ -63,7 +64,8 @@ class List : public Toolkit::List, public Native {
 
 class OptionButton : public Toolkit::OptionButton, public Native {
  public:
-  OptionButton(MainWindow& window, const Toolkit::StoredControl& row, Toolkit::OptionGroup& group);
+  OptionButton(NativeWindow& window, const Toolkit::StoredControl& row,
+               Toolkit::OptionGroup& group);
 
  private:
   void Place() override;
@@ -76,7 +78,7 @@ class OptionButton : public Toolkit::OptionButton, public Native {
 
 class CommandButton : public Toolkit::CommandButton, public Native {
  public:
-  CommandButton(MainWindow& window, const Toolkit::StoredControl& row);
+  CommandButton(NativeWindow& window, const Toolkit::StoredControl& row);
   bool Visible() const override { return IsWindowVisible(hwnd_) != FALSE; }
   void SetFocus() override { window_.SetFocusTo(hwnd_); }
 

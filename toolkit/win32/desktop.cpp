@@ -51,7 +51,7 @@ class DesktopOnWin32 : public Desktop {
     return control;
   }
 
-  Win32::MainWindow window_;
+  NativeWindow window_;
   Toolkit::OptionGroup options_;
 };
 

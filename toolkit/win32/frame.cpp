@@ -2,7 +2,7 @@
 
 namespace Win32 {
 
-Frame::Frame(MainWindow& window, const Toolkit::StoredControl& row)
+Frame::Frame(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
 
 void Frame::ApplyBackColor() {

@@ -2,7 +2,7 @@
 
 namespace Win32 {
 
-Label::Label(MainWindow& window, const Toolkit::StoredControl& row)
+Label::Label(NativeWindow& window, const Toolkit::StoredControl& row)
     : Toolkit::Label(row.text),
       Native(window, row,
              {L"STATIC", (row.properties.centred ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |

@@ -14,7 +14,7 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 }  // namespace
 
-List::List(MainWindow& window, const Toolkit::StoredControl& row)
+List::List(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   if (row.properties.typed_in) SetWindowTextW(hwnd_, Wide(row.text.data()));
 }
@@ -51,13 +51,12 @@ void List::Notified(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
       open_ = true;
+      accepted_ = true;
       closed_text_ = TextOf(hwnd_);
       break;
-    case CBN_SELENDOK:
-      accepted_ = true;
-      break;
     case CBN_SELENDCANCEL:
-      accepted_ = false;
+      // A closed list says so, too, when it loses the focus.
+      if (open_) accepted_ = false;
       break;
     case CBN_CLOSEUP:
       open_ = false;
@@ -71,6 +70,7 @@ void List::Notified(WORD code) {
       break;
     case CBN_EDITCHANGE:
       chosen_ = -1;
+      closed_text_ = TextOf(hwnd_);
       break;
     default:
       break;

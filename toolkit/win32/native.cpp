@@ -3,7 +3,7 @@
 #include <map>
 #include <tuple>
 
-#include "main_window.h"
+#include "native_window.h"
 
 namespace Win32 {
 
@@ -47,7 +47,7 @@ std::u16string TextOf(HWND window) {
   return text;
 }
 
-Native::Native(MainWindow& window, const Toolkit::StoredControl& row, Style style)
+Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
                           WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Handle(),

@@ -31,7 +31,7 @@ HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi);
 // The text of a window.
 std::u16string TextOf(HWND window);
 
-class MainWindow;
+class NativeWindow;
 
 class Native {
  public:
@@ -40,7 +40,7 @@ class Native {
     DWORD style;
     DWORD ex_style = 0;
   };
-  Native(MainWindow& window, const Toolkit::StoredControl& row, Style style);
+  Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style);
   virtual ~Native() = default;
   Native(const Native&) = delete;
   Native& operator=(const Native&) = delete;
@@ -64,7 +64,7 @@ class Native {
     return SendMessageW(hwnd_, message, wparam, lparam);
   }
 
-  MainWindow& window_;
+  NativeWindow& window_;
   const Toolkit::StoredControl& row_;
   HWND hwnd_;
 };

@@ -3,7 +3,7 @@
 namespace Win32 {
 
 // The arrow keys move within a group, which begins at its first button.
-OptionButton::OptionButton(MainWindow& window, const Toolkit::StoredControl& row,
+OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& row,
                            Toolkit::OptionGroup& group)
     : Toolkit::OptionButton(group),
       Native(window, row,

@@ -28,7 +28,7 @@ std::int16_t ShiftState() {
 
 }  // namespace
 
-TextBox::TextBox(MainWindow& window, const Toolkit::StoredControl& row)
+TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
@@ -49,21 +49,35 @@ bool TextBox::Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result
       result = WantedKeys(reinterpret_cast<const MSG*>(lparam));
       return true;
     case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:  // with Alt
       NoteKeyDown(static_cast<std::int16_t>(wparam), (HIWORD(lparam) & KF_REPEAT) != 0);
-      return false;
+      // Not every keyboard layout makes a character of Ctrl+Tab.
+      if (!IsTypedTab(wparam)) return false;
+      Send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\t"));
+      return true;
     case WM_KEYUP:
+    case WM_SYSKEYUP:
       NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
       return false;
     case WM_KILLFOCUS:
       NoteFocusLost();
       return false;
     case WM_CHAR:
+      if (IsTypedTab(wparam)) return true;
       if (wparam == CtrlA) SelectText({0, -1});
-      // A box of one line would beep at Enter.
-      return wparam == CtrlA || (wparam == VK_RETURN && !row_.properties.several_lines);
+      // A box of one line would beep at Enter, with Ctrl or without.
+      return wparam == CtrlA ||
+             ((wparam == u'\r' || wparam == u'\n') && !row_.properties.several_lines);
+    case WM_SYSCHAR:
+      return wparam == u'\r';
     default:
       return false;
   }
+}
+
+// Ctrl+Tab, as the key or as its character, which have the same number.
+bool TextBox::IsTypedTab(WPARAM key) const {
+  return key == VK_TAB && IsDown(VK_CONTROL) && row_.properties.several_lines;
 }
 
 // What the dialog manager leaves to the box. The native answer is not asked for: a pane that knows

@@ -1,4 +1,4 @@
-#include "main_window.h"
+#include "native_window.h"
 
 namespace Win32 {
 
@@ -25,7 +25,7 @@ SIZE OuterSize(int width, int height, int dpi) {
 
 }  // namespace
 
-MainWindow::MainWindow(int client_width, int client_height)
+NativeWindow::NativeWindow(int client_width, int client_height)
     : client_width_(client_width), client_height_(client_height) {
   WNDCLASSEXW window_class = {};
   window_class.cbSize = sizeof window_class;
@@ -39,7 +39,7 @@ MainWindow::MainWindow(int client_width, int client_height)
 
   // A dialog comes from a template; this one holds no controls. Behind the header follow, as texts,
   // the menu (none), the class and the caption (empty).
-  struct {
+  struct alignas(DWORD) {
     DLGTEMPLATE header;
     WORD menu;
     wchar_t class_name[std::size(ClassName)];
@@ -51,7 +51,7 @@ MainWindow::MainWindow(int client_width, int client_height)
   Resize(DpiOf(hwnd_));
 }
 
-int MainWindow::RunLoop() {
+int NativeWindow::RunLoop() {
   Centre();
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
@@ -63,20 +63,20 @@ int MainWindow::RunLoop() {
   return static_cast<int>(message.wParam);
 }
 
-void MainWindow::End() {
+void NativeWindow::End() {
   DestroyWindow(hwnd_);
 }
 
-void MainWindow::Enable(int milliseconds) {
+void NativeWindow::Enable(int milliseconds) {
   SetTimer(hwnd_, TimerId, static_cast<UINT>(milliseconds), nullptr);
 }
 
-HWND MainWindow::Focus() const {
+HWND NativeWindow::Focus() const {
   const HWND focus = GetFocus();
   return IsActive() && focus ? focus : remembered_focus_;
 }
 
-void MainWindow::SetFocusTo(HWND control) {
+void NativeWindow::SetFocusTo(HWND control) {
   if (Focus() == control) return;
   remembered_focus_ = control;
   // The dialog manager's own way of setting the focus, so that the right button has the frame of
@@ -86,22 +86,22 @@ void MainWindow::SetFocusTo(HWND control) {
   }
 }
 
-void MainWindow::PassFocusOn() {
+void NativeWindow::PassFocusOn() {
   SetFocusTo(GetNextDlgTabItem(hwnd_, Focus(), FALSE));
 }
 
-void MainWindow::RememberFocus() {
+void NativeWindow::RememberFocus() {
   const HWND focus = GetFocus();
   if (focus && IsChild(hwnd_, focus)) remembered_focus_ = focus;
 }
 
-LRESULT CALLBACK MainWindow::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
-  auto* const self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+LRESULT CALLBACK NativeWindow::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+  auto* const self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
   if (!self) return DefDlgProcW(hwnd, message, wparam, lparam);
   return self->Handle(message, wparam, lparam);
 }
 
-LRESULT MainWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_ACTIVATE:
       // The dialog manager would give the focus back to a control that may have turned disabled in
@@ -159,13 +159,13 @@ LRESULT MainWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
   return DefDlgProcW(hwnd_, message, wparam, lparam);
 }
 
-void MainWindow::Activated() {
+void NativeWindow::Activated() {
   if (!remembered_focus_) remembered_focus_ = GetNextDlgTabItem(hwnd_, nullptr, FALSE);
   ::SetFocus(remembered_focus_);
   NoteActivated();
 }
 
-void MainWindow::Command(WORD id, WORD code, HWND control) {
+void NativeWindow::Command(WORD id, WORD code, HWND control) {
   if (id == IDOK) {
     // Enter, and no button has the frame of the default one, as after a click with the mouse: it
     // presses the button that has the focus. Escape comes as IDCANCEL and does nothing.
@@ -179,7 +179,7 @@ void MainWindow::Command(WORD id, WORD code, HWND control) {
   if (Native* const native = control ? Native::Of(control) : nullptr) native->Notified(code);
 }
 
-HBRUSH MainWindow::PaintGround(HDC dc, HWND control) const {
+HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
   const Native* const native = Native::Of(control);
   const Toolkit::Coloured* const colours = native ? native->Colours() : nullptr;
   if (!colours || colours->BackColor() == UsualColor) return nullptr;
@@ -190,13 +190,13 @@ HBRUSH MainWindow::PaintGround(HDC dc, HWND control) const {
   return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
 }
 
-void MainWindow::Resize(int dpi) {
+void NativeWindow::Resize(int dpi) {
   dpi_ = dpi;
   const SIZE size = OuterSize(Pixels(client_width_, dpi), Pixels(client_height_, dpi), dpi);
   SetWindowPos(hwnd_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void MainWindow::Centre() {
+void NativeWindow::Centre() {
   MONITORINFO monitor = {};
   monitor.cbSize = sizeof monitor;
   GetMonitorInfoW(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTOPRIMARY), &monitor);
@@ -208,11 +208,11 @@ void MainWindow::Centre() {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-void MainWindow::ApplyCaption() {
+void NativeWindow::ApplyCaption() {
   SetWindowTextW(hwnd_, Wide(Caption()));
 }
 
-void MainWindow::ApplyBackColor() {
+void NativeWindow::ApplyBackColor() {
   InvalidateRect(hwnd_, nullptr, TRUE);
 }
 

@@ -6,9 +6,9 @@
 
 namespace Win32 {
 
-class MainWindow : public Toolkit::Window, public Toolkit::Timer {
+class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
  public:
-  MainWindow(int client_width, int client_height);
+  NativeWindow(int client_width, int client_height);
 
   HWND Handle() const { return hwnd_; }
   int Dpi() const { return dpi_; }
