@@ -5,16 +5,12 @@
 
 #include <windows.h>
 
-#include <functional>
-#include <string>
-#include <string_view>
+#include <vector>
 
 #include "layout.h"
+#include "user.h"
 
 namespace Desk {
-
-using Text = std::u16string;
-using View = std::u16string_view;
 
 // Waits until `condition` holds, at most `limit` milliseconds; tells whether it does.
 bool Wait(const std::function<bool()>& condition, DWORD limit = 10000);
@@ -22,22 +18,20 @@ bool Wait(const std::function<bool()>& condition, DWORD limit = 10000);
 Text TextOf(HWND window);
 HWND FindTandem();  // the window on the screen, if there is one
 
-// Keys and mouse. `Press` presses and releases; `held` are keys held down around it.
+// Keys and mouse. `Press` presses and releases, while `held` is held down.
 void Key(WORD key, bool down);
-void Press(WORD key, std::initializer_list<WORD> held = {});
+void Press(WORD key, WORD held = 0);
 void Type(View text);
 void Click(POINT place);
-void ClickOn(HWND window);
 void Wheel(HWND window, int notches);
 
-// What can be seen on the screen, pixel by pixel, from the top left.
+// What can be seen on the screen, pixel by pixel from the top left.
 struct Picture {
   int width, height;
   std::vector<COLORREF> pixels;
 };
 Picture PictureOf(HWND window);
 Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, int dpi);
-Picture PictureOfIcon(const wchar_t* icon, COLORREF ground);
 Picture InBlackAndWhite(Picture picture);
 
 // The smallest part of its pixels by which `part` differs from `whole`, wherever it is laid on it.
@@ -47,44 +41,40 @@ double Difference(const Picture& part, const Picture& whole);
 constexpr COLORREF Spot = RGB(255, 0, 255);  // nothing of ours has this colour
 void PutSpot(HWND window);
 
-struct MessageBox {
-  HWND window;
-  Text text, title;
-  int icon;  // 48 or 64
-};
-
-class Tandem {
+class Tandem : public User {
  public:
-  Tandem();   // starts the program and waits for its first screen
-  ~Tandem();  // ends it, if it still runs
+  Tandem();            // starts the program and waits for its first screen
+  ~Tandem() override;  // ends it, if it still runs
 
   HWND Window() const { return window_; }
-  int Dpi() const;
-  HWND Control(View name, int index = Toolkit::NoIndex) const;
-  HWND Control(const Toolkit::StoredControl& row) const { return Control(row.name, row.index); }
+  HWND Control(View name) const;  // as for User
+  HWND Control(const Toolkit::StoredControl& row) const;
   RECT Place(HWND control) const;  // in the client area
 
-  bool IsInFront() const { return GetForegroundWindow() == window_ && Focus(); }
   HWND Focus() const;  // a list counts as focused also when the line in it is
-  bool FocusIs(HWND control) const;
-  bool GoTo(HWND control) const;          // by Tab
-  void Choose(int calendar) const;        // by the arrow keys
-  void Pick(HWND list, View item) const;  // by opening the list
-  void Fill(HWND box, View text) const;   // by typing over what is there
-  void Enter(int row, View words) const;  // the fields of a row from the left
-  void Push(HWND button, WORD key = VK_SPACE) const;
-
-  Text Row(int row) const;  // the fields from the left and the weekday, with blanks in between
-  Text Rows() const { return Row(0) + u" | " + Row(1) + u" | " + Row(2); }
-  Text Pane() const { return TextOf(Control(u"txbOutput")); }
-  void TickPasses() const;
-
-  MessageBox WaitForBox() const;
+  bool FocusIs(HWND control) const {
+    return Wait([&] { return Focus() == control; });
+  }
+  bool IsEnabled(View name) const { return IsWindowEnabled(Control(name)) != FALSE; }
+  LRESULT Index(HWND list) const { return SendMessageW(list, CB_GETCURSEL, 0, 0); }
+  bool IsOpen(HWND list) const { return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0; }
   HWND FindBox() const;
+  void TickPasses() const;
   int WaitForExit() const;  // the exit code; -1 if the program still runs
 
+  bool GoTo(HWND control) const;                // by Tab
+  void PressButton(View name, WORD key) const;  // with that key, once it can be pressed
+
+  Text Read(View control) const override { return TextOf(Control(control)); }
+  void Set(View field, View value) override;
+  void Choose(int calendar) override;
+  void Push(View button) override;
+  MessageBoxSeen CloseBox() override;
+  bool Sees(const std::function<bool()>& condition) const override { return Wait(condition); }
+
  private:
-  std::vector<HWND> Fields(int row) const;
+  void Pick(HWND list, View item) const;  // by opening the list
+  void Fill(HWND box, View text) const;   // by typing over what is there
 
   PROCESS_INFORMATION process_ = {};
   HWND window_ = nullptr;

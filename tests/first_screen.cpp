@@ -6,7 +6,7 @@
 
 int main() {
   constexpr int PaneId = 100;
-  Desk::Text pane;
+  Text pane;
   const bool shown = Desk::Wait(
       [&] {
         const HWND window = Desk::FindTandem();

@@ -1,49 +1,38 @@
 // The toolkit in memory: what the form asks for, without a screen. A test plays the user.
 #pragma once
 
+#include <map>
+
 #include "toolkit.h"
+#include "user.h"
 
 class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
  public:
-  // What the platform would have drawn, moved or changed so far.
-  int touches = 0;
-
-  struct Box {
-    std::u16string text, title;
-    Toolkit::Icon icon;
-    bool operator==(const Box&) const = default;
-  };
-  std::vector<Box> boxes;
-  std::u16string clipboard;
+  int touches = 0;  // how often the platform would have drawn, moved or changed something
+  std::map<Text, Toolkit::Control*> controls;
+  std::vector<MessageBoxSeen> boxes;
   int interval = 0;
   bool on_screen = false;
-  bool ended = false;
   const Toolkit::Control* focus = nullptr;
 
   struct Base {
-    Base(MemoryDesktop& its_desktop, const Toolkit::StoredControl&) : desktop(its_desktop) {}
-    void Touch() { ++desktop.touches; }
     MemoryDesktop& desktop;
+    void Touch() { ++desktop.touches; }
   };
-
   struct Frame : Toolkit::Frame, Base {
-    using Base::Base;
+    Frame(MemoryDesktop& d, const Toolkit::StoredControl&) : Base{d} {}
     void ApplyBackColor() override { Touch(); }
   };
-
   struct Label : Toolkit::Label, Base {
-    Label(MemoryDesktop& d, const Toolkit::StoredControl& row)
-        : Toolkit::Label(row.text), Base(d, row) {}
+    Label(MemoryDesktop& d, const Toolkit::StoredControl& r) : Toolkit::Label(r.text), Base{d} {}
     void ApplyBackColor() override { Touch(); }
     void ApplyCaption() override { Touch(); }
   };
-
   struct TextBox : Toolkit::TextBox, Base {
-    TextBox(MemoryDesktop& d, const Toolkit::StoredControl& row) : Base(d, row), text(row.text) {}
+    TextBox(MemoryDesktop& d, const Toolkit::StoredControl& r) : Base{d}, text(r.text) {}
     std::u16string text;
     Selection selection{};
 
-    // The user's keys, in the box that has the focus.
     void Down(std::int16_t key, bool repeat = false) { NoteKeyDown(key, repeat); }
     void Up(std::int16_t key) { NoteKeyUp(key, 0); }
     void Leave() { NoteFocusLost(); }
@@ -56,33 +45,26 @@ class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     Selection SelectedText() const override { return selection; }
     void SelectText(Selection selected) override { Touch(), selection = selected; }
   };
-
   struct List : Toolkit::List, Base {
-    using Base::Base;
+    List(MemoryDesktop& d, const Toolkit::StoredControl&) : Base{d} {}
     int index = -1;
-
-    void Choose(int item) {  // the user's choice
-      index = item;
-      if (Click) Click();
-    }
+    void Choose(int item) { index = item, Click ? Click() : void(); }
     int ListIndex() const override { return index; }
     void ApplyNewItem(const std::u16string&) override { Touch(); }
     void ApplyClear() override { Touch(), index = -1; }
     void ApplyListIndex(int item) override { Touch(), index = item; }
   };
-
   struct OptionButton : Toolkit::OptionButton, Base {
-    OptionButton(MemoryDesktop& d, const Toolkit::StoredControl& row)
-        : Toolkit::OptionButton(d.options_), Base(d, row) {}
+    OptionButton(MemoryDesktop& d, const Toolkit::StoredControl&)
+        : Toolkit::OptionButton(d.options_), Base{d} {}
     void Choose() { NoteChosen(); }
     void ApplyBackColor() override { Touch(); }
     void ApplyValue() override { Touch(); }
     void ApplyFontBold() override { Touch(); }
   };
-
   struct CommandButton : Toolkit::CommandButton, Base {
-    CommandButton(MemoryDesktop& d, const Toolkit::StoredControl& row)
-        : Toolkit::CommandButton(row.text), Base(d, row) {}
+    CommandButton(MemoryDesktop& d, const Toolkit::StoredControl& r)
+        : Toolkit::CommandButton(r.text), Base{d} {}
     void Press() { NotePressed(); }
     bool Visible() const override { return desktop.on_screen; }
     void SetFocus() override { desktop.focus = this; }
@@ -91,32 +73,32 @@ class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     void PassFocusOn() override { desktop.focus = nullptr; }
   };
 
-  // The screen's side of the window and of the timer.
-  void BringUp() {
-    on_screen = true;
-    NoteActivated();
-  }
-  void CloseWindow() { Unload(); }
+  void BringUp() { on_screen = true, NoteActivated(); }
   void Second() { Tick(); }
 
   Toolkit::Window& MainWindow() override { return *this; }
   Toolkit::Timer& MainTimer() override { return *this; }
   std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override {
-    if (row.kind == Toolkit::Kind::Frame) return std::make_unique<Frame>(*this, row);
-    if (row.kind == Toolkit::Kind::Label) return std::make_unique<Label>(*this, row);
-    if (row.kind == Toolkit::Kind::TextBox) return std::make_unique<TextBox>(*this, row);
-    if (row.kind == Toolkit::Kind::List) return std::make_unique<List>(*this, row);
-    if (row.kind == Toolkit::Kind::OptionButton) return std::make_unique<OptionButton>(*this, row);
-    return std::make_unique<CommandButton>(*this, row);
+    using Make =
+        std::unique_ptr<Toolkit::Control> (*)(MemoryDesktop&, const Toolkit::StoredControl&);
+    static constexpr Make makers[] = {New<Frame>, New<Label>,        New<TextBox>,
+                                      New<List>,  New<OptionButton>, New<CommandButton>};
+    auto control = makers[static_cast<int>(row.kind)](*this, row);
+    const Text index = row.index == Toolkit::NoIndex ? Text() : Text(1, char16_t(u'0' + row.index));
+    controls[Text(row.name) + index] = control.get();
+    return control;
   }
-  void ShowMessage(std::u16string_view text, std::u16string_view title,
-                   Toolkit::Icon icon) override {
-    boxes.push_back({std::u16string(text), std::u16string(title), icon});
+  void ShowMessage(View text, View title, Toolkit::Icon icon) override {
+    boxes.push_back({Text(text), Text(title), static_cast<int>(icon)});
   }
-  void SetClipboardText(std::u16string_view text) override { clipboard = text; }
-  void EndProgram() override { ended = true; }
+  void SetClipboardText(View) override {}
+  void EndProgram() override {}
 
  private:
+  template <class T>
+  static std::unique_ptr<Toolkit::Control> New(MemoryDesktop& d, const Toolkit::StoredControl& r) {
+    return std::make_unique<T>(d, r);
+  }
   void ApplyCaption() override { ++touches; }
   void ApplyBackColor() override { ++touches; }
   void Enable(int milliseconds) override { interval = milliseconds; }
