@@ -69,6 +69,7 @@ class OptionButton : public Toolkit::OptionButton, public Native {
 
  private:
   void Place() override;
+  void FollowTheme() override;
   void Notified(WORD code) override;
   const Toolkit::Coloured* Colours() const override { return this; }
   void ApplyBackColor() override;

@@ -4,6 +4,7 @@
 #include <tuple>
 
 #include "native_window.h"
+#include "spoken_name.h"
 
 namespace Win32 {
 
@@ -15,10 +16,8 @@ constexpr int FirstControlId = 100;
 }  // namespace
 
 int DpiOf(HWND window) {
-  // Windows before 10 has one DPI for everything and lacks the function.
-  using GetDpi = UINT(WINAPI*)(HWND);
-  static const auto get_dpi = reinterpret_cast<GetDpi>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow")));
+  // Windows before 10 has one DPI for everything.
+  static const auto get_dpi = UserFunction<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
   if (get_dpi) return static_cast<int>(get_dpi(window));
   const HDC screen = GetDC(nullptr);
   const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
@@ -54,6 +53,7 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
                           reinterpret_cast<HMENU>(INT_PTR{FirstControlId + row.tab}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  if (!row.spoken_name.empty()) GiveSpokenName(hwnd_, row.spoken_name);
 }
 
 void Native::Place() {

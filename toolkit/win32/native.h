@@ -22,6 +22,13 @@ inline int Pixels(int twips, int dpi) {
   return MulDiv(twips, dpi, 1440);
 }
 
+// A function of user32 that older versions of Windows do not have; null where it is missing.
+template <class Function>
+Function UserFunction(const char* name) {
+  return reinterpret_cast<Function>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), name)));
+}
+
 // The dots per inch that the window is drawn with.
 int DpiOf(HWND window);
 
@@ -50,9 +57,12 @@ class Native {
     return reinterpret_cast<Native*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
   }
 
+  Toolkit::Kind Kind() const { return row_.kind; }
+
   // Puts the control where its row has it, and gives it its font.
   virtual void Place();
 
+  virtual void FollowTheme() {}   // the user has chosen another theme
   virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Settled() {}       // what PostSettle has asked for
   virtual const Toolkit::Coloured* Colours() const { return nullptr; }

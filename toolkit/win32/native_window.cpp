@@ -12,15 +12,29 @@ constexpr COLORREF Black = RGB(0, 0, 0);
 // The outer size of a window whose client area is `width` by `height` pixels.
 SIZE OuterSize(int width, int height, int dpi) {
   RECT rect = {0, 0, width, height};
-  using Adjust = BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT);
-  static const auto adjust_for_dpi = reinterpret_cast<Adjust>(reinterpret_cast<void*>(
-      GetProcAddress(GetModuleHandleW(L"user32.dll"), "AdjustWindowRectExForDpi")));
+  static const auto adjust_for_dpi =
+      UserFunction<BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT)>("AdjustWindowRectExForDpi");
   if (adjust_for_dpi) {
     adjust_for_dpi(&rect, WindowStyle, FALSE, 0, static_cast<UINT>(dpi));
   } else {
     AdjustWindowRectEx(&rect, WindowStyle, FALSE, 0);
   }
   return {rect.right - rect.left, rect.bottom - rect.top};
+}
+
+// Calls `use` for each control of the window that is one of ours.
+template <class Use>
+void ForEachControl(HWND window, Use use) {
+  for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    if (Native* const native = Native::Of(child)) use(child, *native);
+  }
+}
+
+// The icon of the program, in the size that the system wants for one of its places.
+HICON ProgramIcon(int width, int height) {
+  return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON,
+                                       GetSystemMetrics(width), GetSystemMetrics(height),
+                                       LR_SHARED));
 }
 
 }  // namespace
@@ -32,6 +46,8 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   window_class.lpfnWndProc = Procedure;
   window_class.cbWndExtra = DLGWINDOWEXTRA;
   window_class.hInstance = GetModuleHandleW(nullptr);
+  window_class.hIcon = ProgramIcon(SM_CXICON, SM_CYICON);
+  window_class.hIconSm = ProgramIcon(SM_CXSMICON, SM_CYSMICON);
   window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   window_class.lpszClassName = ClassName;
@@ -48,10 +64,17 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   std::copy(std::begin(ClassName), std::end(ClassName), dialog.class_name);
   hwnd_ = CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  // The dialog manager would scale the controls by itself, from rounded pixels.
+  using Change = BOOL(WINAPI*)(HWND, UINT, UINT);
+  constexpr UINT DisableAll = 1;
+  if (const auto set_behavior = UserFunction<Change>("SetDialogDpiChangeBehavior")) {
+    set_behavior(hwnd_, DisableAll, DisableAll);
+  }
   Resize(DpiOf(hwnd_));
 }
 
 int NativeWindow::RunLoop() {
+  KeepOffFields();
   Centre();
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
@@ -121,6 +144,13 @@ LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_SIZE:
       // A minimised window cannot give the focus to a control.
       if (wparam == SIZE_RESTORED && IsActive() && remembered_focus_) ::SetFocus(remembered_focus_);
+      break;
+    case WM_DPICHANGED:
+      MoveToDpi(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
+      return 0;
+    case WM_THEMECHANGED:
+    case WM_SETTINGCHANGE:
+      ForEachControl(hwnd_, [](HWND, Native& native) { native.FollowTheme(); });
       break;
     case WM_COMMAND:
       Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
@@ -194,6 +224,37 @@ void NativeWindow::Resize(int dpi) {
   dpi_ = dpi;
   const SIZE size = OuterSize(Pixels(client_width_, dpi), Pixels(client_height_, dpi), dpi);
   SetWindowPos(hwnd_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
+  Resize(dpi);
+  SetWindowPos(hwnd_, nullptr, place.left, place.top, 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  ForEachControl(hwnd_, [](HWND, Native& native) { native.Place(); });
+  KeepOffFields();
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// Some labels and options reach a few pixels into a field beside them, and would paint their ground
+// over its border: they are cut back to where they do not.
+void NativeWindow::KeepOffFields() {
+  ForEachControl(hwnd_, [this](HWND ground, Native& native) {
+    RECT rect;
+    if (native.Kind() != Toolkit::Kind::Label && native.Kind() != Toolkit::Kind::OptionButton)
+      return;
+    GetWindowRect(ground, &rect);
+    const HRGN region = CreateRectRgn(0, 0, rect.right - rect.left, rect.bottom - rect.top);
+    ForEachControl(hwnd_, [&](HWND field, Native& other) {
+      RECT cut;
+      if (other.Kind() != Toolkit::Kind::TextBox && other.Kind() != Toolkit::Kind::List) return;
+      GetWindowRect(field, &cut);
+      OffsetRect(&cut, -rect.left, -rect.top);
+      const HRGN taken = CreateRectRgnIndirect(&cut);
+      CombineRgn(region, region, taken, RGN_DIFF);
+      DeleteObject(taken);
+    });
+    SetWindowRgn(ground, region, FALSE);  // which owns it from now on
+  });
 }
 
 void NativeWindow::Centre() {

@@ -13,14 +13,14 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   HWND Handle() const { return hwnd_; }
   int Dpi() const { return dpi_; }
 
-  int RunLoop();
-  void End();
+  int RunLoop();  // brings the window to the screen and serves it; gives the exit code
+  void End();     // ends RunLoop
   void Enable(int milliseconds) override;
 
   // The control that has the focus, or that gets it when the window is active again.
   HWND Focus() const;
   void SetFocusTo(HWND control);
-  void PassFocusOn();
+  void PassFocusOn();  // to the next control in the tab order that can take it
 
  private:
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
@@ -34,7 +34,9 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   void Command(WORD id, WORD code, HWND control);
   HBRUSH PaintGround(HDC dc, HWND control) const;
   void Resize(int dpi);
+  void MoveToDpi(int dpi, const RECT& place);
   void Centre();
+  void KeepOffFields();
 
   int client_width_, client_height_;  // twips
   HWND hwnd_ = nullptr;

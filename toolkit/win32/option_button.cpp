@@ -1,5 +1,7 @@
 #include "controls.h"
 
+#include <uxtheme.h>
+
 namespace Win32 {
 
 // The arrow keys move within a group, which begins at its first button.
@@ -12,6 +14,17 @@ OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& r
 void OptionButton::Place() {
   Native::Place();
   UseFont(FontBold());
+  FollowTheme();
+}
+
+// Themed captions have the colour of the theme. In high contrast that can be white, which cannot be
+// read on the yellow; without the theme the caption is black.
+void OptionButton::FollowTheme() {
+  HIGHCONTRASTW contrast = {};
+  contrast.cbSize = sizeof contrast;
+  SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
+  const bool plain = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+  SetWindowTheme(hwnd_, plain ? L"" : nullptr, plain ? L"" : nullptr);
 }
 
 void OptionButton::Notified(WORD code) {
