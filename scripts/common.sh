@@ -26,8 +26,8 @@ build() {
 }
 
 # Makes Wine's prefix: its own folder below build, so that nothing of the user's is touched. $1 is
-# "desktop" where Wine is to draw a desktop of its own, with title bars and a working focus on a
-# display that has no window manager.
+# "own" for the windows of the user's display, or the dots per inch of a desktop that Wine draws
+# itself, with title bars and a working focus on a display that has no window manager.
 prepare_wine() {
   export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
   [ -f "$WINEPREFIX/ready" ] && return 0
@@ -35,10 +35,13 @@ prepare_wine() {
   wineboot --init >/dev/null 2>&1
   # Debian's Wine does not look into the folder where Debian puts its fonts.
   ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
-  wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v 'Courier New' /d 'Liberation Mono' /f
-  if [ "$1" = desktop ]; then
+  local replacements='HKCU\Software\Wine\Fonts\Replacements'
+  wine reg add "$replacements" /v 'Courier New' /d 'Liberation Mono' /f
+  wine reg add "$replacements" /v 'Microsoft Sans Serif' /d 'Liberation Sans' /f
+  if [ "$1" != own ]; then
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Tandem /f
-    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d 1280x800 /f
+    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d 1920x1200 /f
+    wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f
   fi
   wineserver -w # the registry is written when the last program has ended
   touch "$WINEPREFIX/ready"
@@ -48,7 +51,7 @@ prepare_wine() {
 start_display() {
   local number_file
   number_file=$(mktemp)
-  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 1920x1200x24 -nolisten tcp 3>"$number_file" >/dev/null 2>&1 &
   display_process=$!
   trap end_display EXIT
   until [ -s "$number_file" ]; do

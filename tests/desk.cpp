@@ -126,15 +126,18 @@ Picture PictureOf(HWND window) {
   });
 }
 
-Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, int dpi) {
+Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, COLORREF ground, int dpi) {
+  // What bitmaps cannot be scaled to is drawn with the outlines of the same letters.
+  const bool outlines = font.face == u"MS Sans Serif" && dpi != 96;
+  const Text face(outlines ? View(u"Microsoft Sans Serif") : font.face);
   const HFONT made = CreateFontW(-MulDiv(font.height, dpi, 1440), 0, 0, 0, bold ? 700 : 400, 0, 0,
-                                 0, DEFAULT_CHARSET, 0, 0, 0, 0, Wide(Text(font.face)));
+                                 0, DEFAULT_CHARSET, 0, 0, 0, 0, Wide(face));
   const auto length = static_cast<int>(text.size());
   SIZE size = {};
   const auto draw = [&](HDC dc) {
     SelectObject(dc, made);
     GetTextExtentPoint32W(dc, Wide(Text(text)), length, &size);
-    PatBlt(dc, 0, 0, size.cx, size.cy, WHITENESS);
+    SetBkColor(dc, ground);  // which TextOut fills behind the letters
     TextOutW(dc, 0, 0, Wide(Text(text)), length);
   };
   Draw(1, 1, draw);  // for its size

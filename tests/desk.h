@@ -31,7 +31,7 @@ struct Picture {
   std::vector<COLORREF> pixels;
 };
 Picture PictureOf(HWND window);
-Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, int dpi);
+Picture PictureOfText(View text, const Toolkit::Font& font, bool bold, COLORREF ground, int dpi);
 Picture InBlackAndWhite(Picture picture);
 
 // The smallest part of its pixels by which `part` differs from `whole`, wherever it is laid on it.

@@ -54,9 +54,11 @@ TEST_F(RealWindow, StandsAsStored) {
     EXPECT_TRUE(row.kind < Kind::OptionButton || shown == row.text) << row.tab;
     // The whole text can be read on it, in its font; the selected option is bold.
     shown = shown.substr(0, shown.find(u'\r'));
-    const bool bold = row.kind == Kind::OptionButton && row.index == 0;
+    const bool is_option = row.kind == Kind::OptionButton;
+    const bool bold = is_option && row.index == 0;
+    const COLORREF ground = is_option || row.kind == Kind::Label ? RGB(240, 232, 0) : 0xFFFFFF;
     EXPECT_TRUE(shown.empty() ||
-                Difference(InBlackAndWhite(PictureOfText(shown, row.font, bold, dpi)),
+                Difference(InBlackAndWhite(PictureOfText(shown, row.font, bold, ground, dpi)),
                            InBlackAndWhite(PictureOf(control))) < 0.02)
         << row.tab;
   }

@@ -33,6 +33,7 @@ class TextBox : public Toolkit::TextBox, public Native {
   void SetSelStart(std::int32_t position) override;
 
  private:
+  void Place() override;
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam,
                                     UINT_PTR id, DWORD_PTR self);
   bool Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);

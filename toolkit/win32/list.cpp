@@ -37,6 +37,7 @@ void List::Place() {
     text_height += missing;
     Send(CB_SETITEMHEIGHT, ClosedPart, text_height);
   }
+  if (row_.properties.typed_in) TakeMargins(GetWindow(hwnd_, GW_CHILD));
   // Placing a list selects the text in its line.
   Send(CB_SETEDITSEL, 0, 0);
 }

@@ -13,6 +13,13 @@ namespace {
 // Dialogs answer to 1 and 2 as OK and Cancel, so the numbers of the controls begin higher.
 constexpr int FirstControlId = 100;
 
+// Bitmaps have a few sizes only. Where the window is not drawn at 96 dpi, the outlines of the same
+// letters stand in for them.
+const char16_t* FaceAt(std::u16string_view face, int dpi) {
+  constexpr int DpiOfBitmaps = 96;
+  return face == u"MS Sans Serif" && dpi != DpiOfBitmaps ? u"Microsoft Sans Serif" : face.data();
+}
+
 }  // namespace
 
 int DpiOf(HWND window) {
@@ -27,12 +34,13 @@ int DpiOf(HWND window) {
 
 HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi) {
   static std::map<std::tuple<std::u16string_view, int, bool>, HFONT> fonts;
+  const char16_t* const face = FaceAt(font.face, dpi);
   const int height = Pixels(font.height, dpi);
-  HFONT& made = fonts[{font.face, height, bold}];
+  HFONT& made = fonts[{face, height, bold}];
   if (!made) {
     made = CreateFontW(-height, 0, 0, 0, bold ? FW_BOLD : FW_NORMAL, FALSE, FALSE, FALSE,
                        DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY,
-                       DEFAULT_PITCH | FF_DONTCARE, Wide(font.face.data()));
+                       DEFAULT_PITCH | FF_DONTCARE, Wide(face));
   }
   return made;
 }

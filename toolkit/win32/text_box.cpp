@@ -35,6 +35,11 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
   SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
+void TextBox::Place() {
+  Native::Place();
+  if (!row_.properties.several_lines) TakeMargins(hwnd_);
+}
+
 LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                                     DWORD_PTR self) {
   LRESULT result = 0;
