@@ -64,10 +64,8 @@ TEST(Gregorian, RefusesWhatItCannotSay) {
 
 TEST(DateText, OrdersAndSigns) {
   InitDateTables();
-  struct {
-    EuroDate date;
-    std::u16string_view separator, thousands, ymd, dmy, mdy;
-  } const rows[] = {
+  using View = std::u16string_view;
+  const std::tuple<EuroDate, View, View, View, View, View> rows[] = {
       {{2010, 5, 1, 0, 0, 0}, u"-", u"", u"2010-05-01", u"01-05-2010", u"05-01-2010"},
       {{0, 12, 31, 0, 0, 0}, u", ", u"", u"0, 12, 31", u"31, 12, 0", u"12, 31, 0"},
       {{-44, 3, 15, 0, 0, 0}, u"-", u",", u"-44-03-15", u"15-03-(-44)", u"03-15-(-44)"},

@@ -5,16 +5,13 @@
 #include "desk.h"
 
 int main() {
-  constexpr int PaneId = 100;
   Text pane;
-  const bool shown = Desk::Wait(
-      [&] {
-        const HWND window = Desk::FindTandem();
-        if (window) pane = Desk::TextOf(GetDlgItem(window, PaneId));
-        return !pane.empty();
-      },
-      60000);
+  const auto shown = [&pane] {
+    const HWND window = FindWindowW(L"TandemWindow", nullptr);
+    if (window) pane = Desk::TextOf(GetDlgItem(window, 100));
+    return !pane.empty();
+  };
+  if (!Desk::Wait(shown, 60000)) return 1;
   Sleep(500);  // until what was written is drawn, too
-  std::printf("%ls", reinterpret_cast<const wchar_t*>(pane.c_str()));
-  return shown ? 0 : 1;
+  std::printf("%ls", Desk::Wide(pane));
 }
