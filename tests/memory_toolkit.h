@@ -21,11 +21,11 @@ class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   };
   struct Frame : Toolkit::Frame, Base {
     Frame(MemoryDesktop& d, Row) : Base{d} {}
-    void ApplyBackColor() override { Touch(); }
+    void ApplyBackColor() override {}
   };
   struct Label : Toolkit::Label, Base {
     Label(MemoryDesktop& d, Row row) : Toolkit::Label(row.text), Base{d} {}
-    void ApplyBackColor() override { Touch(); }
+    void ApplyBackColor() override {}
     void ApplyCaption() override { Touch(); }
   };
   struct TextBox : Toolkit::TextBox, Base {
@@ -33,9 +33,6 @@ class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     std::u16string text;
     Selection selection{};
 
-    void Down(std::int16_t key, bool repeat = false) { NoteKeyDown(key, repeat); }
-    void Up(std::int16_t key) { NoteKeyUp(key, 0); }
-    void Leave() { NoteFocusLost(); }
     std::u16string Text() const override { return text; }
     std::int32_t TextLength() const override { return static_cast<std::int32_t>(text.size()); }
     void AppendText(View more) override { Touch(), text += more; }
@@ -55,7 +52,7 @@ class MemoryDesktop : public Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   struct OptionButton : Toolkit::OptionButton, Base {
     OptionButton(MemoryDesktop& d, Row) : Toolkit::OptionButton(d.options_), Base{d} {}
     void Choose() { NoteChosen(); }
-    void ApplyBackColor() override { Touch(); }
+    void ApplyBackColor() override {}
     void ApplyValue() override { Touch(); }
     void ApplyFontBold() override { Touch(); }
   };

@@ -176,39 +176,3 @@ TEST_F(OpenForm, NewSelectionBlanksItsWeekday) {
     EXPECT_EQ(desk.focus == &form.cmdConvert, row < 3);
   }
 }
-
-TEST_F(OpenForm, EnterConvertsWhereItWentDown) {
-  const std::tuple<int, View, std::int16_t, bool> rows[] = {
-      {0, u"txbYearCE0", 13, true}, {0, u"txbYearCE1", 13, false}, {1, u"txbYearCE1", 13, true},
-      {2, u"txbMetNum", 13, true},  {0, u"txbMetNum", 13, false},  {0, u"txbYearCE0", 10, false}};
-  for (const auto& [calendar, field, key, converts] : rows) {
-    Choose(calendar);
-    MemoryDesktop::TextBox& box = Field(field);
-    const Text before = Read(u"txbOutput");
-    box.Down(key, true);
-    box.Up(key);  // it went down elsewhere and was held until the focus came here
-    box.Down(key);
-    box.Leave();
-    box.Up(key);  // the focus was away in between
-    box.Down(key);
-    EXPECT_EQ(Read(u"txbOutput"), before);
-    box.Up(key);
-    EXPECT_EQ(Read(u"txbOutput") != before, converts);
-  }
-}
-
-TEST_F(OpenForm, TrimmingLeavesTheCaretOnItsCharacter) {
-  using Selection = Toolkit::TextBox::Selection;
-  const std::tuple<View, Selection, View, Selection> rows[] = {
-      {u"  20 24 ", {4, 6}, u"20 24", {2, 4}},
-      {u" 5", {0, 0}, u"5", {0, 0}},
-      {u"12   ", {5, 5}, u"12", {2, 2}},
-      {u"   ", {1, 3}, u"", {0, 0}}};
-  for (const auto& [text, before, trimmed, after] : rows) {
-    Set(u"txbYearCE0", text);
-    Field(u"txbYearCE0").selection = before;
-    desk.Second();
-    EXPECT_EQ(Read(u"txbYearCE0"), trimmed);
-    EXPECT_EQ(Field(u"txbYearCE0").selection, after);
-  }
-}
