@@ -9,19 +9,6 @@ constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIM
 constexpr UINT_PTR TimerId = 1;
 constexpr COLORREF Black = RGB(0, 0, 0);
 
-// The outer size of a window whose client area is `width` by `height` pixels.
-SIZE OuterSize(int width, int height, int dpi) {
-  RECT rect = {0, 0, width, height};
-  static const auto adjust_for_dpi =
-      UserFunction<BOOL(WINAPI*)(RECT*, DWORD, BOOL, DWORD, UINT)>("AdjustWindowRectExForDpi");
-  if (adjust_for_dpi) {
-    adjust_for_dpi(&rect, WindowStyle, FALSE, 0, static_cast<UINT>(dpi));
-  } else {
-    AdjustWindowRectEx(&rect, WindowStyle, FALSE, 0);
-  }
-  return {rect.right - rect.left, rect.bottom - rect.top};
-}
-
 // Calls `use` for each control of the window that is one of ours.
 template <class Use>
 void ForEachControl(HWND window, Use use) {
@@ -222,8 +209,18 @@ HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
 
 void NativeWindow::Resize(int dpi) {
   dpi_ = dpi;
-  const SIZE size = OuterSize(Pixels(client_width_, dpi), Pixels(client_height_, dpi), dpi);
-  SetWindowPos(hwnd_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  // The client area counts. What the frame adds is seen once the window is larger than its frame,
+  // so the first size of a new window is a guess.
+  for (int tries = 0; tries < 2; ++tries) {
+    RECT outer;
+    RECT client;
+    GetWindowRect(hwnd_, &outer);
+    GetClientRect(hwnd_, &client);
+    SetWindowPos(hwnd_, nullptr, 0, 0,
+                 outer.right - outer.left - client.right + Pixels(client_width_, dpi),
+                 outer.bottom - outer.top - client.bottom + Pixels(client_height_, dpi),
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  }
 }
 
 void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
