@@ -155,6 +155,7 @@ class Tandem : public User {
     GetModuleFileNameW(nullptr, reinterpret_cast<wchar_t*>(path.data()), MAX_PATH);
     for (int folder = 0; folder < 2; ++folder) path.erase(path.find_last_of(u"\\/"));
     path = u"\"" + path + u"\\tandem.exe\"";
+    Mouse(0, 0, {0});  // out of the way: an open list follows the mouse that lies over it
     STARTUPINFOW start = {};
     CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(path.data()), nullptr, nullptr, FALSE, 0,
                    nullptr, nullptr, &start, &process_);
@@ -281,7 +282,6 @@ class Tandem : public User {
     if (Index(list) == wanted || !GoTo(list)) return;
     Press(VK_F4);
     Wait([&] { return IsOpen(list); });
-    // One by one, since an open list follows the mouse that lies over it, too.
     for (LRESULT now; (now = Index(list)) != wanted;) {
       Press(now < wanted ? VK_DOWN : VK_UP);
       if (!Wait([&] { return Index(list) != now; }, 2000)) return;
