@@ -157,6 +157,7 @@ class Tandem : public User {
     path = u"\"" + path + u"\\tandem.exe\"";
     Mouse(0, 0, {0});  // out of the way: an open list follows the mouse that lies over it
     STARTUPINFOW start = {};
+    start.cb = sizeof start;
     CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(path.data()), nullptr, nullptr, FALSE, 0,
                    nullptr, nullptr, &start, &process_);
     Wait(
