@@ -14,7 +14,7 @@ install_packages() {
   command -v apt-get >/dev/null || { say "no apt-get to install: ${missing[*]}"; return 1; }
   [ "$(id -u)" -eq 0 ] || root=(sudo)
   say "Installing ${missing[*]}"
-  export DEBIAN_FRONTEND=noninteractive
+  root+=(env DEBIAN_FRONTEND=noninteractive)
   "${root[@]}" apt-get update -qq &&
     "${root[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}" >build/packages.log
 }
@@ -29,10 +29,10 @@ build() {
 # "own" for the windows of the user's display, or the dots per inch of a desktop that Wine draws
 # itself, with title bars and a working focus on a display that has no window manager.
 prepare_wine() {
-  export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+  export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
   [ -f "$WINEPREFIX/ready" ] && return 0
   rm -rf "$WINEPREFIX"
-  wineboot --init >/dev/null 2>&1
+  wineboot --init >/dev/null 2>&1 || { say "Wine cannot make $WINEPREFIX" >&2; return 1; }
   # Debian's Wine does not look into the folder where Debian puts its fonts.
   ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
   local replacements='HKCU\Software\Wine\Fonts\Replacements'
@@ -64,6 +64,8 @@ start_display() {
 }
 
 end_display() {
-  wineserver -k >/dev/null 2>&1 || true # there may be none
+  case ${WINEPREFIX:-} in
+    "$PWD"/build/*) wineserver -k >/dev/null 2>&1 || true ;; # never the user's own
+  esac
   kill "$display_process" 2>/dev/null || true
 }

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <stdexcept>
 #include <vector>
 
 #include "layout.h"
@@ -112,7 +113,9 @@ inline Picture PictureOf(HWND window) {
   const RECT rect = RectOf(window);
   const int width = rect.right - rect.left, height = rect.bottom - rect.top;
   return Draw(width, height, [&](HDC dc) {
-    BitBlt(dc, 0, 0, width, height, GetDC(nullptr), rect.left, rect.top, SRCCOPY);
+    const HDC screen = GetDC(nullptr);
+    BitBlt(dc, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
+    ReleaseDC(nullptr, screen);
   });
 }
 
@@ -155,20 +158,20 @@ class Tandem : public User {
     GetModuleFileNameW(nullptr, reinterpret_cast<wchar_t*>(path.data()), MAX_PATH);
     for (int folder = 0; folder < 2; ++folder) path.erase(path.find_last_of(u"\\/"));
     path = u"\"" + path + u"\\tandem.exe\"";
+    SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
     Mouse(0, 0, {0});  // out of the way: an open list follows the mouse that lies over it
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(path.data()), nullptr, nullptr, FALSE, 0,
                    nullptr, nullptr, &start, &process_);
-    Wait(
-        [this] {
-          window = FindWindowW(L"TandemWindow", nullptr);
-          DWORD owner = 0;
-          GetWindowThreadProcessId(window, &owner);
-          return owner == process_.dwProcessId && IsInFront() &&
-                 Focus() == Control(u"cmdConvert") && !Read(u"txbOutput").empty();
-        },
-        60000);
+    const auto is_up = [this] {
+      window = FindWindowW(L"TandemWindow", nullptr);
+      DWORD owner = 0;
+      GetWindowThreadProcessId(window, &owner);
+      return owner == process_.dwProcessId && IsInFront() && Focus() == Control(u"cmdConvert") &&
+             !Read(u"txbOutput").empty();
+    };
+    if (!Wait(is_up, 60000)) throw std::runtime_error("tandem.exe shows no first screen");
   }
   ~Tandem() override {
     TerminateProcess(process_.hProcess, 99);
@@ -205,7 +208,7 @@ class Tandem : public User {
     const Text text = Read(u"txbOutput");
     for (const Text& other : {Text(text.empty() ? u"x" : u""), text}) {
       SendMessageW(Control(u"txbOutput"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(other.c_str()));
-      Wait([&] { return !other.empty() == IsEnabled(u"cmdClear"); });
+      EXPECT_TRUE(Wait([&] { return !other.empty() == IsEnabled(u"cmdClear"); }));
     }
   }
   int WaitForExit() const {  // the exit code; -1 if the program still runs
@@ -235,10 +238,11 @@ class Tandem : public User {
     const View options[] = {u"optCalendar0", u"optCalendar1", u"optCalendar2"};
     for (int steps = 0; steps <= 2; ++steps) {
       int now = 0;
-      while (SendMessageW(Control(options[now]), BM_GETCHECK, 0, 0) != BST_CHECKED) ++now;
+      while (now < 2 && SendMessageW(Control(options[now]), BM_GETCHECK, 0, 0) != BST_CHECKED)
+        ++now;
       if (now == calendar || !GoTo(Control(options[now]))) return;
       Press(calendar > now ? VK_DOWN : VK_UP);
-      FocusIs(Control(u"cmdConvert"));
+      EXPECT_TRUE(FocusIs(Control(u"cmdConvert")));
     }
   }
   void Push(View button) override {
@@ -255,17 +259,18 @@ class Tandem : public User {
     }
     // The exclamation sign is yellow, the information sign blue, the ground neither.
     std::ptrdiff_t yellow = 0, blue = 0;
-    Wait([&] {  // until it is drawn
-      const auto seen = PictureOf(icon).pixels;
-      const auto count = [&](auto is) { return std::count_if(seen.begin(), seen.end(), is); };
-      yellow = count([](Pixel p) { return p.red > p.blue + 60; });
-      blue = count([](Pixel p) { return p.blue > p.red + 60; });
-      return std::abs(seen.front().red - seen.front().blue) < 60 && yellow + blue > 50;
-    });
-    const int style = yellow > blue ? MB_ICONEXCLAMATION : MB_ICONINFORMATION;
+    const bool drawn =
+        icon && Wait([&] {
+          const auto seen = PictureOf(icon).pixels;
+          const auto count = [&](auto is) { return std::count_if(seen.begin(), seen.end(), is); };
+          yellow = count([](Pixel p) { return p.red > p.blue + 60; });
+          blue = count([](Pixel p) { return p.blue > p.red + 60; });
+          return std::abs(seen.front().red - seen.front().blue) < 60 && yellow + blue > 50;
+        });
+    const int style = !drawn ? 0 : yellow > blue ? MB_ICONEXCLAMATION : MB_ICONINFORMATION;
     const Text title = TextOf(box);
     Press(VK_RETURN);
-    Wait([&] { return !FindBox() && IsInFront(); });
+    EXPECT_TRUE(Wait([&] { return !FindBox() && IsInFront(); }));
     return {text, title, style};
   }
 

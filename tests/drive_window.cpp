@@ -21,7 +21,7 @@ struct RealWindow : testing::Test {
 }  // namespace
 
 TEST_F(RealWindow, StandsAsStored) {
-  const int dpi = GetDeviceCaps(GetDC(tandem.window), LOGPIXELSX);
+  const int dpi = static_cast<int>(GetDpiForWindow(tandem.window));
   const auto pixels = [dpi](int twips) { return MulDiv(twips, dpi, 1440); };
   const RECT outer = RectOf(tandem.window);
   RECT client, work;
@@ -52,9 +52,16 @@ TEST_F(RealWindow, StandsAsStored) {
     // The whole text can be read on it, in its font; the selected option is bold.
     shown = shown.substr(0, shown.find(u'\r'));
     const bool is_option = row.kind == Kind::OptionButton, bold = is_option && row.index == 0;
-    const COLORREF ground = is_option || row.kind == Kind::Label ? RGB(240, 232, 0) : 0xFFFFFF;
-    EXPECT_TRUE(shown.empty() || Difference(PictureOfText(shown, row.font, bold, ground, dpi),
-                                            PictureOf(control)) < 0.02)
+    const bool is_yellow = is_option || row.kind == Kind::Label;
+    const COLORREF ground = is_yellow ? RGB(240, 232, 0) : 0xFFFFFF;
+    const Picture seen = PictureOf(control);
+    EXPECT_TRUE(shown.empty() ||
+                Difference(PictureOfText(shown, row.font, bold, ground, dpi), seen) < 0.02)
+        << row.tab;
+    const auto yellow = std::count_if(seen.pixels.begin(), seen.pixels.end(), [](Pixel p) {
+      return p.red == 240 && p.green == 232 && p.blue == 0;
+    });
+    EXPECT_EQ(2 * yellow > seen.width * seen.height, is_yellow || row.kind == Kind::Frame)
         << row.tab;
   }
 }
@@ -111,6 +118,13 @@ TEST_F(RealWindow, EnterAndEscape) {
     Press(VK_ESCAPE);
     Press(VK_TAB);
     EXPECT_TRUE(Wait([&] { return tandem.Focus() && tandem.Focus() != control; }));
+  }
+  for (const auto& [field, text] : {std::pair(u"txbYearCE0", u"-9999"), {u"txbMetNum", u"123"}}) {
+    tandem.Set(field, u"");
+    Type(Text(text) + u"9");  // no more than fits
+    Press(VK_TAB);
+    EXPECT_TRUE(Wait([&] { return tandem.Focus() != tandem.Control(field); }));
+    EXPECT_EQ(tandem.Read(field), text);
   }
   // The Enter that closes a box comes up in the field behind, and does not bring up another.
   tandem.Set(u"txbYearCE0", u"");
@@ -227,9 +241,11 @@ TEST_F(RealWindow, TickRepaintsNothing) {
 
 TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   const UINT other_format = RegisterClipboardFormatW(L"TandemTestFormat");
-  EXPECT_TRUE(Wait([] { return OpenClipboard(nullptr) != FALSE; }));
+  const HWND holder =
+      CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+  EXPECT_TRUE(Wait([&] { return OpenClipboard(holder) != FALSE; }));
   EmptyClipboard();
-  SetClipboardData(other_format, GlobalAlloc(GMEM_MOVEABLE, 8));
+  ASSERT_TRUE(SetClipboardData(other_format, GlobalAlloc(GMEM_MOVEABLE, 8)));
   CloseClipboard();
   ASSERT_TRUE(tandem.GoTo(pane));
   Type(u"mine");
@@ -250,7 +266,7 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   EXPECT_EQ(copied, text);
   EXPECT_FALSE(IsClipboardFormatAvailable(other_format));
   // While another program holds the clipboard.
-  EXPECT_TRUE(Wait([] { return OpenClipboard(GetDesktopWindow()) != FALSE; }));
+  EXPECT_TRUE(Wait([&] { return OpenClipboard(holder) != FALSE; }));
   Press(VK_SPACE);
   Press(VK_TAB);
   EXPECT_TRUE(tandem.FocusIs(tandem.Control(u"cmdQuit")) && Pane() == text);
@@ -279,11 +295,7 @@ TEST_F(RealWindow, ComingBackChangesNothing) {
   EXPECT_TRUE(Wait([&] { return IsIconic(tandem.window) != FALSE; }));
   PostMessageW(tandem.window, WM_SYSCOMMAND, SC_RESTORE, 0);
   EXPECT_TRUE(Wait([&] { return tandem.IsInFront(); }) && tandem.FocusIs(year));
-  // From a date that does not exist nothing is stepped to.
-  const RECT back = RectOf(tandem.Control(u"cmdTBF1"));
-  Click(back.left + 5, back.top + 5);
   tandem.TickPasses();
-  EXPECT_FALSE(tandem.IsEnabled(u"cmdTBF1") || tandem.ShowsBox());
   EXPECT_EQ(all(), before);
 }
 
@@ -318,7 +330,8 @@ TEST(RealProgram, EndsByEveryWay) {
       [](Tandem& tandem) {
         LONG x = RectOf(tandem.window).right;
         const LONG y = RectOf(tandem.window).top + 10;
-        while (SendMessageW(tandem.window, WM_NCHITTEST, 0, MAKELPARAM(x, y)) != HTCLOSE) --x;
+        while (x > 0 && SendMessageW(tandem.window, WM_NCHITTEST, 0, MAKELPARAM(x, y)) != HTCLOSE)
+          --x;
         Click(x - 5, y);
       }};
   for (const auto& way : ways) {

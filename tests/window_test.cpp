@@ -38,6 +38,7 @@ class Form : public testing::Test, public User {
   }
   void Push(View button) override { The<MemoryDesktop::CommandButton>(button).Press(); }
   Box CloseBox() override {
+    EXPECT_EQ(desk.boxes.size(), 1u);
     return desk.boxes.empty() ? Box() : std::exchange(desk.boxes, {}).back();
   }
   bool Sees(const std::function<bool()>& condition) const override { return condition(); }
@@ -174,5 +175,29 @@ TEST_F(OpenForm, NewSelectionBlanksItsWeekday) {
     Set(list, Text(The<Toolkit::List>(list).Item(1)));
     for (int label = 0; label <= 2; ++label) EXPECT_EQ(Row(label).ends_with(u' '), label == row);
     EXPECT_EQ(desk.focus == &form.cmdConvert, row < 3);
+  }
+}
+
+TEST_F(OpenForm, EnterConvertsInTheSelectedRow) {
+  const std::tuple<int, View, std::int16_t, bool> rows[] = {
+      {0, u"txbYearCE0", 13, true}, {0, u"txbYearCE1", 13, false}, {1, u"txbYearCE1", 13, true},
+      {2, u"txbMetNum", 13, true},  {0, u"txbMetNum", 13, false},  {0, u"txbYearCE0", 10, false}};
+  for (const auto& [calendar, field, key, converts] : rows) {
+    desk.focus = nullptr;
+    form.optCalendar[std::size_t(calendar)]->Select();
+    EXPECT_EQ(desk.focus, &form.cmdConvert);
+    for (int i = 0; i <= 2; ++i) {
+      EXPECT_EQ(form.optCalendar[std::size_t(i)]->FontBold(), i == calendar);
+    }
+    const Text before = Read(u"txbOutput");
+    Field(field).KeyUp(key, 0);
+    EXPECT_EQ(Read(u"txbOutput") != before, converts);
+  }
+  Choose(0);
+  for (const View nowhere : {u"February 30 2010", u"May 7 "}) {  // nothing to step from
+    Enter(0, nowhere);
+    const Text before = Rows();
+    Push(u"cmdTBF1");
+    EXPECT_TRUE(Rows() == before && desk.boxes.empty());
   }
 }

@@ -18,6 +18,11 @@ bool Change(Property& property, const Value& value) {
   return true;
 }
 
+// Any program can send a key of any number; there are 256.
+std::size_t KeyNumber(std::int16_t key_code) {
+  return static_cast<std::size_t>(key_code) & 0xFF;
+}
+
 }  // namespace
 
 void Coloured::SetBackColor(Color color) {
@@ -50,11 +55,11 @@ std::u16string TextBox::TrimText() {
 }
 
 void TextBox::NoteKeyDown(std::int16_t key_code, bool is_repeat) {
-  if (!is_repeat) keys_down_.set(static_cast<std::size_t>(key_code));
+  if (!is_repeat) keys_down_.set(KeyNumber(key_code));
 }
 
 void TextBox::NoteKeyUp(std::int16_t key_code, std::int16_t shift) {
-  const auto key = static_cast<std::size_t>(key_code);
+  const std::size_t key = KeyNumber(key_code);
   if (!keys_down_.test(key)) return;
   keys_down_.reset(key);
   if (KeyUp) KeyUp(key_code, shift);

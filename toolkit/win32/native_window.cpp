@@ -20,8 +20,7 @@ void ForEachControl(HWND window, Use use) {
 // The icon of the program, in the size that the system wants for one of its places.
 HICON ProgramIcon(int width, int height) {
   return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON,
-                                       GetSystemMetrics(width), GetSystemMetrics(height),
-                                       LR_SHARED));
+                                       GetSystemMetrics(width), GetSystemMetrics(height), 0));
 }
 
 }  // namespace
@@ -66,9 +65,11 @@ int NativeWindow::RunLoop() {
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (IsDialogMessageW(hwnd_, &message)) continue;
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
+    if (!IsDialogMessageW(hwnd_, &message)) {
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    RememberFocus();
   }
   return static_cast<int>(message.wParam);
 }
@@ -116,21 +117,16 @@ LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_ACTIVATE:
       // The dialog manager would give the focus back to a control that may have turned disabled in
       // the meantime; the focus is then on nothing.
-      if (LOWORD(wparam) == WA_INACTIVE) {
-        RememberFocus();
-      } else {
-        Activated();
-      }
+      if (LOWORD(wparam) != WA_INACTIVE) Activated();
       return 0;
     case WM_SETFOCUS:
       if (remembered_focus_) ::SetFocus(remembered_focus_);
       return 0;
-    case WM_SYSCOMMAND:
-      if ((wparam & 0xFFF0) == SC_MINIMIZE) RememberFocus();
-      break;
     case WM_SIZE:
-      // A minimised window cannot give the focus to a control.
-      if (wparam == SIZE_RESTORED && IsActive() && remembered_focus_) ::SetFocus(remembered_focus_);
+      // A minimised window could not give the focus to a control.
+      if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) {
+        ::SetFocus(remembered_focus_);
+      }
       break;
     case WM_DPICHANGED:
       MoveToDpi(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
@@ -143,7 +139,7 @@ LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
       Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
       return 0;
     case SettleMessage:
-      Native::Of(reinterpret_cast<HWND>(wparam))->Settled();
+      if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Settled();
       return 0;
     case WM_TIMER:
       if (wparam == TimerId && Tick) Tick();
@@ -198,7 +194,9 @@ void NativeWindow::Command(WORD id, WORD code, HWND control) {
 
 HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
   const Native* const native = Native::Of(control);
-  const Toolkit::Coloured* const colours = native ? native->Colours() : nullptr;
+  const Toolkit::Coloured* colours = native ? native->Colours() : nullptr;
+  // A themed button lets the ground behind it show at its edge.
+  if (native && native->Kind() == Toolkit::Kind::CommandButton) colours = this;
   if (!colours || colours->BackColor() == UsualColor) return nullptr;
   // Black under every theme: the yellow does not change with it.
   SetTextColor(dc, Black);
@@ -224,9 +222,10 @@ void NativeWindow::Resize(int dpi) {
 }
 
 void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
+  // The whole place at once: a window that is resized where it was may change its monitor again.
+  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   Resize(dpi);
-  SetWindowPos(hwnd_, nullptr, place.left, place.top, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
   ForEachControl(hwnd_, [](HWND, Native& native) { native.Place(); });
   KeepOffFields();
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
