@@ -250,6 +250,10 @@ void NativeWindow::KeepOffFields() {
       DeleteObject(taken);
     });
     SetWindowRgn(ground, region, FALSE);  // which owns it from now on
+    // The classes of these controls otherwise draw with the region of the window around them.
+    SetClassLongPtrW(
+        ground, GCL_STYLE,
+        static_cast<LONG_PTR>(GetClassLongPtrW(ground, GCL_STYLE) & ~ULONG_PTR{CS_PARENTDC}));
   });
 }
 
