@@ -1,0 +1,18 @@
+// Waits until tandem.exe shows its first screen and prints the text of the pane. Ends with 1 if
+// that does not happen within a minute.
+#include <windows.h>
+
+#include <cstdio>
+#include <iterator>
+
+int main() {
+  constexpr int PaneId = 100;
+  wchar_t pane[1000] = L"";
+  for (const DWORD start = GetTickCount(); !pane[0]; Sleep(10)) {
+    const HWND box = GetDlgItem(FindWindowW(L"TandemWindow", nullptr), PaneId);
+    if (box) SendMessageW(box, WM_GETTEXT, std::size(pane), reinterpret_cast<LPARAM>(pane));
+    if (GetTickCount() - start > 60000) return 1;
+  }
+  Sleep(500);  // until what was written is drawn, too
+  std::printf("%ls", pane);
+}
