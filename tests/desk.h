@@ -9,23 +9,12 @@
 #include <stdexcept>
 #include <vector>
 
-#include "layout.h"
 #include "scenarios.h"
 
 namespace Desk {
 
 inline const wchar_t* Wide(const Text& text) {
   return reinterpret_cast<const wchar_t*>(text.c_str());
-}
-
-// Waits until `condition` holds, at most `limit` milliseconds; tells whether it does.
-inline bool Wait(const std::function<bool()>& condition, DWORD limit = 10000) {
-  for (const DWORD start = GetTickCount(); !condition(); Sleep(2)) {
-    MSG message;  // for windows that the test has opened itself
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
-    if (GetTickCount() - start > limit) return false;
-  }
-  return true;
 }
 
 inline Text TextOf(HWND window) {
@@ -49,20 +38,35 @@ inline void SendKey(WORD key, WORD scan, DWORD flags) {
 }
 
 inline void Key(WORD key, bool down) {
-  SendKey(key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)), down ? 0 : KEYEVENTF_KEYUP);
+  const bool is_extended = key >= VK_PRIOR && key <= VK_DELETE;  // not those of the number block
+  SendKey(key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)),
+          (down ? 0 : KEYEVENTF_KEYUP) | (is_extended ? KEYEVENTF_EXTENDEDKEY : 0));
 }
 
-inline void Press(WORD key, WORD held = 0) {  // and releases it; `held` is down meanwhile
-  if (held) Key(held, true);
-  Key(key, true);
-  Key(key, false);
-  if (held) Key(held, false);
-}
+// Keys that type nothing stand in a text as their number above FirstKey.
+constexpr char16_t FirstKey = 0xE000;
+constexpr char16_t Tab = FirstKey + VK_TAB, Return = FirstKey + VK_RETURN, F4 = FirstKey + VK_F4,
+                   Esc = FirstKey + VK_ESCAPE, Space = FirstKey + VK_SPACE,
+                   Home = FirstKey + VK_HOME, End = FirstKey + VK_END, Left = FirstKey + VK_LEFT,
+                   Up = FirstKey + VK_UP, Down = FirstKey + VK_DOWN, Delete = FirstKey + VK_DELETE,
+                   Shift = FirstKey + VK_SHIFT, Ctrl = FirstKey + VK_CONTROL,
+                   Alt = FirstKey + VK_MENU;
 
-inline void Type(View text) {
-  for (const char16_t c : text) {
-    SendKey(0, c, KEYEVENTF_UNICODE);
-    SendKey(0, c, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+// Presses and releases one key after the other; Shift, Ctrl and Alt together with the next one.
+inline void Press(const Text& keys) {
+  WORD held = 0;
+  for (const char16_t c : keys) {
+    const WORD key = c & 0xFF;
+    const bool stays_down = c == Shift || c == Ctrl || c == Alt;
+    if (c < FirstKey && !held) {
+      SendKey(0, c, KEYEVENTF_UNICODE);
+      SendKey(0, c, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
+      continue;
+    }
+    Key(key, true);
+    if (!stays_down) Key(key, false);
+    if (held) Key(held, false);
+    held = stays_down ? key : WORD{0};
   }
 }
 
@@ -70,12 +74,10 @@ inline void Mouse(LONG x, LONG y, std::initializer_list<DWORD> events, int notch
   for (const DWORD event : events) {
     INPUT input = {};
     input.type = INPUT_MOUSE;
-    input.mi = {MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1,
-                MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1,
-                static_cast<DWORD>(notches * WHEEL_DELTA),
-                event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE,
-                0,
-                0};
+    input.mi.dx = MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
+    input.mi.dy = MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
+    input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
+    input.mi.dwFlags = event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
     SendInput(1, &input, sizeof input);
   }
 }
@@ -83,228 +85,189 @@ inline void Click(LONG x, LONG y) {
   Mouse(x, y, {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
 }
 
-// What can be seen, pixel by pixel from the top left.
-struct Pixel {
-  std::uint8_t blue, green, red, unused;
-  bool IsDark() const { return red + green + blue < 300; }
-};
-struct Picture {
-  int width, height;
-  std::vector<Pixel> pixels;
-};
+// What is drawn, row by row, a letter a pixel: dark (#), yellow (y), blue (b) or another.
+using Picture = std::vector<std::string>;
 
-inline Picture Draw(int width, int height, const std::function<void(HDC)>& draw) {
-  BITMAPINFO info = {};
-  info.bmiHeader = {sizeof info.bmiHeader, width, -height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  Pixel* pixels = nullptr;
-  const HDC dc = CreateCompatibleDC(nullptr);
-  const HBITMAP bitmap =
-      CreateDIBSection(dc, &info, DIB_RGB_COLORS, reinterpret_cast<void**>(&pixels), nullptr, 0);
+inline Picture Draw(int width, int height, const std::function<void(HDC dc)>& draw) {
+  Picture picture(std::size_t(height), std::string(std::size_t(width), ' '));
+  const HDC screen = GetDC(nullptr), dc = CreateCompatibleDC(screen);
+  const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
   SelectObject(dc, bitmap);
   draw(dc);
-  GdiFlush();
-  const Picture picture = {width, height, {pixels, pixels + width * height}};
+  for (int at = 0; at < width * height; ++at) {
+    const COLORREF color = GetPixel(dc, at % width, at / width);
+    const int red = GetRValue(color), blue = GetBValue(color), warmth = red - blue;
+    const bool is_dark = red + GetGValue(color) + blue < 300;
+    const char letter = is_dark ? '#' : warmth > 60 ? 'y' : warmth < -60 ? 'b' : ' ';
+    picture[std::size_t(at / width)][std::size_t(at % width)] = letter;
+  }
   DeleteDC(dc);
   DeleteObject(bitmap);
+  ReleaseDC(nullptr, screen);
   return picture;
 }
 
-inline Picture PictureOf(HWND window) {
-  const RECT rect = RectOf(window);
-  const int width = rect.right - rect.left, height = rect.bottom - rect.top;
+inline Picture PictureOf(const RECT& part) {  // of the screen
+  const int width = part.right - part.left, height = part.bottom - part.top;
   return Draw(width, height, [&](HDC dc) {
-    const HDC screen = GetDC(nullptr);
-    BitBlt(dc, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
-    ReleaseDC(nullptr, screen);
+    BitBlt(dc, 0, 0, width, height, GetDC(nullptr), part.left, part.top, SRCCOPY);
   });
 }
 
-inline Picture PictureOfText(const Text& text, const Toolkit::Font& font, bool bold,
-                             COLORREF ground, int dpi) {
-  // What bitmaps cannot be scaled to is drawn with the outlines of the same letters.
-  const bool outlines = font.face == u"MS Sans Serif" && dpi != 96;
-  const Text face(outlines ? View(u"Microsoft Sans Serif") : font.face);
+inline Picture PictureOf(const Text& text, View face, int height, bool bold, COLORREF ground) {
   SIZE size = {};
   const auto draw = [&](HDC dc) {
-    SelectObject(dc, CreateFontW(-MulDiv(font.height, dpi, 1440), 0, 0, 0, bold ? 700 : 400, 0, 0,
-                                 0, DEFAULT_CHARSET, 0, 0, 0, 0, Wide(face)));
+    SelectObject(dc, CreateFontW(-height, 0, 0, 0, bold ? 700 : 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
+                                 0, 0, Wide(Text(face))));
     SetBkColor(dc, ground);  // which TextOut fills behind the letters
-    GetTextExtentPoint32W(dc, Wide(text), static_cast<int>(text.size()), &size);
-    TextOutW(dc, 0, 0, Wide(text), static_cast<int>(text.size()));
+    GetTextExtentPoint32W(dc, Wide(text), int(text.size()), &size);
+    TextOutW(dc, 0, 0, Wide(text), int(text.size()));
   };
   Draw(1, 1, draw);  // for its size
   return Draw(size.cx, size.cy, draw);
 }
 
-// The smallest part of its pixels by which `part` differs from `whole`, wherever it is laid on it.
-inline double Difference(const Picture& part, const Picture& whole) {
-  double least = 1;
-  for (int start = 0; start < whole.width * (whole.height - part.height + 1); ++start) {
-    if (start % whole.width + part.width > whole.width) continue;
-    int differ = 0;
-    for (int i = 0; i < part.width * part.height; ++i) {
-      const int there = start + i / part.width * whole.width + i % part.width;
-      differ += part.pixels[std::size_t(i)].IsDark() != whole.pixels[std::size_t(there)].IsDark();
-    }
-    least = std::min(least, double(differ) / double(part.pixels.size()));
-  }
-  return least;
+// Whether all rows of `part` are in rows of `whole`, one below the other.
+inline bool Shows(const Picture& whole, const Picture& part) {
+  const auto holds = [](const std::string& seen, const std::string& row) {
+    return seen.find(row) != seen.npos;
+  };
+  return std::search(whole.begin(), whole.end(), part.begin(), part.end(), holds) != whole.end();
 }
 
-class Tandem : public User {
- public:
-  Tandem() {  // starts the program, which lies a folder above the test
-    Text path(MAX_PATH, u'\0');
-    GetModuleFileNameW(nullptr, reinterpret_cast<wchar_t*>(path.data()), MAX_PATH);
-    for (int folder = 0; folder < 2; ++folder) path.erase(path.find_last_of(u"\\/"));
-    path = u"\"" + path + u"\\tandem.exe\"";
+constexpr int FirstId = 100;  // the controls are numbered in tab order
+
+struct Tandem : User {
+  Tandem() {  // starts the program, which lies beside the test
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
     Mouse(0, 0, {0});  // out of the way: an open list follows the mouse that lies over it
+    wchar_t command[] = L"tandem.exe";
     STARTUPINFOW start = {};
     start.cb = sizeof start;
-    CreateProcessW(nullptr, reinterpret_cast<wchar_t*>(path.data()), nullptr, nullptr, FALSE, 0,
-                   nullptr, nullptr, &start, &process_);
+    CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
+                   &process_);
     const auto is_up = [this] {
-      window = FindWindowW(L"TandemWindow", nullptr);
-      DWORD owner = 0;
-      GetWindowThreadProcessId(window, &owner);
-      return owner == process_.dwProcessId && IsInFront() && Focus() == Control(u"cmdConvert") &&
-             !Read(u"txbOutput").empty();
+      window = State().hwndActive;
+      return IsInFront() && Focus() == u"cmdConvert" && !Read(u"txbOutput").empty();
     };
-    if (!Wait(is_up, 60000)) throw std::runtime_error("tandem.exe shows no first screen");
+    if (!Holds(is_up, 60000)) throw std::runtime_error("tandem.exe shows no first screen");
   }
   ~Tandem() override {
     TerminateProcess(process_.hProcess, 99);
-    WaitForExit();
+    ExitCode();
   }
 
   HWND window = nullptr;
-  HWND Control(const Toolkit::StoredControl& row) const {
-    return GetDlgItem(window, 100 + row.tab);
-  }
   HWND Control(View name) const {
     for (const Toolkit::StoredControl& row : StoredLayout()) {
-      const Text index(row.index < 0 ? 0 : 1, static_cast<char16_t>(u'0' + row.index));
-      if (Text(row.name) + index == name) return Control(row);
+      if (NameOf(row) == name) return GetDlgItem(window, FirstId + row.tab);
     }
     return nullptr;
   }
-  HWND Focus() const {  // a list counts as focused also when the line in it is
-    GUITHREADINFO info = {};
-    info.cbSize = sizeof info;
-    GetGUIThreadInfo(process_.dwThreadId, &info);
-    const HWND parent = GetParent(info.hwndFocus);
-    return parent && parent != window ? parent : info.hwndFocus;
+  GUITHREADINFO State() const {
+    GUITHREADINFO state = {};
+    state.cbSize = sizeof state;
+    GetGUIThreadInfo(process_.dwThreadId, &state);
+    return state;
   }
-  bool IsInFront() const { return GetForegroundWindow() == window && Focus(); }
-  bool FocusIs(HWND control) const {
-    return Wait([&] { return Focus() == control; });
+  Text Focus() const {  // a list counts as focused also when the line in it is
+    const HWND focus = State().hwndFocus, parent = GetParent(focus);
+    const int id = GetDlgCtrlID(parent == window ? focus : parent) - FirstId;
+    return id < 0 ? u"" : NameOf(StoredLayout()[std::size_t(id)]);
   }
-  bool IsEnabled(View name) const { return IsWindowEnabled(Control(name)) != FALSE; }
-  LRESULT Index(HWND list) const { return SendMessageW(list, CB_GETCURSEL, 0, 0); }
-  bool IsOpen(HWND list) const { return SendMessageW(list, CB_GETDROPPEDSTATE, 0, 0) != 0; }
-  bool ShowsBox() const { return FindBox() != nullptr; }
-  void TickPasses() const {  // it shows in the button that empties the pane
-    const Text text = Read(u"txbOutput");
-    for (const Text& other : {Text(text.empty() ? u"x" : u""), text}) {
-      SendMessageW(Control(u"txbOutput"), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(other.c_str()));
-      EXPECT_TRUE(Wait([&] { return !other.empty() == IsEnabled(u"cmdClear"); }));
-    }
+  LRESULT Ask(View control, UINT message, int number = 0) const {
+    return SendMessageW(Control(control), message, static_cast<WPARAM>(number), 0);
   }
-  int WaitForExit() const {  // the exit code; -1 if the program still runs
+  LRESULT Selected(View box) const { return Ask(box, EM_GETSEL); }
+  bool IsOpen(View list) const { return Ask(list, CB_GETDROPPEDSTATE) != 0; }
+  bool IsInFront() const { return GetForegroundWindow() == window && !Focus().empty(); }
+  HWND Message() const {  // the box that is open
+    const HWND active = State().hwndActive;
+    return active == window ? nullptr : active;
+  }
+  int ExitCode() const {  // -1 if the program does not end
     DWORD code = 0;
     if (WaitForSingleObject(process_.hProcess, 10000) != WAIT_OBJECT_0) return -1;
     GetExitCodeProcess(process_.hProcess, &code);
     return static_cast<int>(code);
   }
-  bool GoTo(HWND control) const {  // by Tab
-    for (int tabs = 0; tabs < 40 && Focus() != control; ++tabs) {
-      const HWND before = Focus();
-      Press(VK_TAB);
-      Wait([&] { return Focus() != before; }, 2000);
+
+  // Whether `condition` comes to hold within `limit` milliseconds.
+  static bool Holds(const std::function<bool()>& condition, DWORD limit = 10000) {
+    for (const DWORD start = GetTickCount(); !condition(); Sleep(2)) {
+      MSG message;  // for windows that the test has opened itself
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+      if (GetTickCount() - start > limit) return false;
     }
-    return Focus() == control;
+    return true;
   }
-  void PressButton(View name, WORD key) const {
-    if (Wait([&] { return IsEnabled(name); }) && GoTo(Control(name))) Press(key);
+  void Wait(const std::function<bool()>& condition) override { Holds(condition); }
+  void TickPasses() {  // it shows in the button that empties the pane
+    const bool fill = Read(u"txbOutput").empty();
+    Fill(u"txbOutput", fill ? u"x" : u"");
+    EXPECT_SEEN(IsEnabled(u"cmdClear"), fill);
+  }
+  void Fill(View box, const Text& text) const {  // as a program does, without keys
+    SendMessageW(Control(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  }
+  void GoTo(View start) const {  // by Tab, to the control whose name starts so
+    for (int tabs = 0; tabs < 40 && !Focus().starts_with(start); ++tabs) {
+      const Text before = Focus();
+      Press({Tab});
+      Holds([&] { return Focus() != before; }, 2000);
+    }
+    EXPECT_TRUE(Focus().starts_with(start)) << testing::PrintToString(Focus());
   }
 
   Text Read(View control) const override { return TextOf(Control(control)); }
-  bool Sees(const std::function<bool()>& condition) const override { return Wait(condition); }
+  bool IsEnabled(View button) const override { return IsWindowEnabled(Control(button)) != FALSE; }
   void Set(View field, View value) override {
-    field.starts_with(u"txb") ? Fill(Control(field), value) : Pick(Control(field), Text(value));
+    if (Read(field) == value) return;
+    GoTo(field);
+    // By opening the list, or by typing over what is there.
+    const LRESULT item = SendMessageW(Control(field), CB_FINDSTRINGEXACT, WPARAM(-1),
+                                      reinterpret_cast<LPARAM>(Text(value).c_str()));
+    if (field.starts_with(u"txb") || item < 0) {
+      Press(Text{Home, Shift, End, Delete}.append(value));
+    } else {
+      const LRESULT steps = item - Ask(field, CB_GETCURSEL);
+      Press(F4 + Text(std::size_t(std::abs(steps)), steps > 0 ? Down : Up) + Return);
+      EXPECT_SEEN(Focus(), field == u"cboMType" ? field : u"cmdConvert");
+    }
+    EXPECT_SEEN(Read(field), value);
   }
-  void Choose(int calendar) override {  // by the arrow keys
-    const View options[] = {u"optCalendar0", u"optCalendar1", u"optCalendar2"};
-    for (int steps = 0; steps <= 2; ++steps) {
-      int now = 0;
-      while (now < 2 && SendMessageW(Control(options[now]), BM_GETCHECK, 0, 0) != BST_CHECKED)
-        ++now;
-      if (now == calendar || !GoTo(Control(options[now]))) return;
-      Press(calendar > now ? VK_DOWN : VK_UP);
-      EXPECT_TRUE(FocusIs(Control(u"cmdConvert")));
+  void Choose(View option) override {  // by the arrow key, which goes round
+    for (int tries = 0; tries < 2 && Ask(option, BM_GETCHECK) != BST_CHECKED; ++tries) {
+      GoTo(u"optCalendar");
+      Press({Down});
+      EXPECT_SEEN(Focus(), u"cmdConvert");
     }
   }
   void Push(View button) override {
-    PressButton(button, VK_SPACE);
-    if (button == u"cmdTBF0") FocusIs(Control(u"cmdConvert"));
+    EXPECT_SEEN(IsEnabled(button), true);
+    GoTo(button);
+    Press({Space});
+    if (button == u"cmdTBF0") Wait([&] { return Focus() == u"cmdConvert"; });
   }
   Box CloseBox() override {
-    HWND box = nullptr, icon = nullptr;
-    Text text;
-    if (!Wait([&] { return (box = FindBox()) && GetForegroundWindow() == box; })) return {};
-    for (HWND child = nullptr; (child = FindWindowExW(box, child, L"Static", nullptr));) {
-      const bool is_icon = (GetWindowLongPtrW(child, GWL_STYLE) & SS_TYPEMASK) == SS_ICON;
-      is_icon ? void(icon = child) : void(text = TextOf(child));
-    }
+    EXPECT_SEEN(Message() && GetForegroundWindow() == Message(), true);
+    const HWND box = Message(), icon = FindWindowExW(box, nullptr, L"Static", nullptr);
+    const Text text = TextOf(FindWindowExW(box, icon, L"Static", nullptr)), title = TextOf(box);
     // The exclamation sign is yellow, the information sign blue, the ground neither.
-    std::ptrdiff_t yellow = 0, blue = 0;
-    const bool drawn =
-        icon && Wait([&] {
-          const auto seen = PictureOf(icon).pixels;
-          const auto count = [&](auto is) { return std::count_if(seen.begin(), seen.end(), is); };
-          yellow = count([](Pixel p) { return p.red > p.blue + 60; });
-          blue = count([](Pixel p) { return p.blue > p.red + 60; });
-          return std::abs(seen.front().red - seen.front().blue) < 60 && yellow + blue > 50;
-        });
-    const int style = !drawn ? 0 : yellow > blue ? MB_ICONEXCLAMATION : MB_ICONINFORMATION;
-    const Text title = TextOf(box);
-    Press(VK_RETURN);
-    EXPECT_TRUE(Wait([&] { return !FindBox() && IsInFront(); }));
-    return {text, title, style};
+    std::string seen;
+    Wait([&] {
+      seen.clear();
+      for (const std::string& row : PictureOf(RectOf(icon))) seen += row;
+      return seen.front() == ' ' && seen.back() == ' ' && seen.find_first_of("yb") != seen.npos;
+    });
+    const bool warns =
+        std::count(seen.begin(), seen.end(), 'y') > std::count(seen.begin(), seen.end(), 'b');
+    Press({Return});
+    EXPECT_SEEN(!Message() && IsInFront(), true);
+    return {text, title, warns ? MB_ICONEXCLAMATION : MB_ICONINFORMATION};
   }
 
  private:
-  HWND FindBox() const {
-    HWND box = nullptr;
-    do {
-      box = FindWindowExW(nullptr, box, L"#32770", nullptr);
-    } while (box && GetWindow(box, GW_OWNER) != window);
-    return box;
-  }
-  void Pick(HWND list, const Text& item) const {  // by opening the list
-    const LRESULT wanted =
-        SendMessageW(list, CB_FINDSTRINGEXACT, WPARAM(-1), reinterpret_cast<LPARAM>(item.c_str()));
-    if (Index(list) == wanted || !GoTo(list)) return;
-    Press(VK_F4);
-    Wait([&] { return IsOpen(list); });
-    for (LRESULT now; (now = Index(list)) != wanted;) {
-      Press(now < wanted ? VK_DOWN : VK_UP);
-      if (!Wait([&] { return Index(list) != now; }, 2000)) return;
-    }
-    Press(VK_RETURN);
-    Wait([&] { return !IsOpen(list); });
-    if (list != Control(u"cboMType")) FocusIs(Control(u"cmdConvert"));
-  }
-  void Fill(HWND box, View text) const {  // by typing over what is there
-    if (!GoTo(box)) return;
-    Press('A', VK_CONTROL);
-    Press(VK_DELETE);
-    Wait([&] { return TextOf(box).empty(); });
-    Type(text);
-    Wait([&] { return TextOf(box) == text; });
-  }
-
   PROCESS_INFORMATION process_ = {};
 };
 
