@@ -61,7 +61,7 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
                           reinterpret_cast<HMENU>(INT_PTR{FirstControlId + row.tab}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  if (!row.spoken_name.empty()) GiveSpokenName(hwnd_, row.spoken_name);
+  if (!row.spoken_name.empty()) GiveSpokenName(hwnd_, Wide(row.spoken_name.data()));
 }
 
 void Native::Place() {

@@ -2,12 +2,10 @@
 
 #include <windows.h>
 
-#include <string_view>
-
 namespace Win32 {
 
-// Gives a control that has no caption the name that a screen reader says for it. To be called when
-// it is the control that was made last.
-void GiveSpokenName(HWND control, std::u16string_view name);
+// Gives a control that has no caption, and the line to type in that it may hold, the name that a
+// screen reader says for it. `name` ends with a zero and lives as long as the control.
+void GiveSpokenName(HWND control, const wchar_t* name);
 
 }  // namespace Win32
