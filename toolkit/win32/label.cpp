@@ -13,6 +13,7 @@ void Label::ApplyBackColor() {
 }
 
 void Label::ApplyCaption() {
+  PaintLater();
   SetWindowTextW(hwnd_, Wide(Caption()));
 }
 

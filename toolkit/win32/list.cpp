@@ -103,6 +103,7 @@ void List::ApplyClear() {
 
 void List::ApplyListIndex(int index) {
   chosen_ = index;
+  PaintLater();
   Send(CB_SETCURSEL, static_cast<WPARAM>(index));
 }
 

@@ -80,4 +80,17 @@ void Native::PostSettle() {
   PostMessageW(window_.Handle(), SettleMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
 }
 
+void Native::PaintLater() {
+  if (paints_later_ || !IsWindowVisible(hwnd_)) return;
+  paints_later_ = true;
+  Send(WM_SETREDRAW, FALSE);
+  PostMessageW(window_.Handle(), PaintMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
+}
+
+void Native::Paint() {
+  paints_later_ = false;
+  Send(WM_SETREDRAW, TRUE);
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
 }  // namespace Win32

@@ -71,11 +71,13 @@ class Native {
   virtual void FollowTheme() {}   // the user has chosen another theme
   virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Settled() {}       // what PostSettle has asked for
+  void Paint();                   // what PaintLater has put off
   virtual const Toolkit::Coloured* Colours() const { return nullptr; }
 
  protected:
   void UseFont(bool bold);
   void PostSettle();  // calls Settled once the message that is being handled is done with
+  void PaintLater();  // nothing before then, and then once, however many changes there are
   LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
     return SendMessageW(hwnd_, message, wparam, lparam);
   }
@@ -83,6 +85,9 @@ class Native {
   NativeWindow& window_;
   const Toolkit::StoredControl& row_;
   HWND hwnd_;
+
+ private:
+  bool paints_later_ = false;
 };
 
 }  // namespace Win32

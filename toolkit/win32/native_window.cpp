@@ -141,6 +141,9 @@ LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
     case SettleMessage:
       if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Settled();
       return 0;
+    case PaintMessage:
+      if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Paint();
+      return 0;
     case WM_TIMER:
       if (wparam == TimerId && Tick) Tick();
       return 0;

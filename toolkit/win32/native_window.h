@@ -44,7 +44,8 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   HWND remembered_focus_ = nullptr;
 };
 
-// Posted to the window by Native::PostSettle with the control as WPARAM.
+// Posted to the window by Native::PostSettle and Native::PaintLater with the control as WPARAM.
 inline constexpr UINT SettleMessage = WM_APP;
+inline constexpr UINT PaintMessage = WM_APP + 1;
 
 }  // namespace Win32

@@ -113,6 +113,7 @@ void TextBox::SetSelStart(std::int32_t position) {
 }
 
 void TextBox::ApplyText(std::u16string_view text) {
+  PaintLater();
   SetWindowTextW(hwnd_, Wide(std::u16string(text)));
 }
 
