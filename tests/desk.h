@@ -179,15 +179,13 @@ struct Tandem : User {
     return SendMessageW(Control(control), message, static_cast<WPARAM>(number), 0);
   }
   LRESULT Selected(View box) const { return Ask(box, EM_GETSEL); }
-  bool IsOpen(View list) const { return Ask(list, CB_GETDROPPEDSTATE) != 0; }
   bool IsInFront() const { return GetForegroundWindow() == window && !Focus().empty(); }
   HWND Message() const {  // the box that is open
-    const HWND active = State().hwndActive;
-    return active == window ? nullptr : active;
+    return State().hwndActive == window ? nullptr : State().hwndActive;
   }
-  int ExitCode() const {  // -1 if the program does not end
+  int ExitCode() const {  // STILL_ACTIVE if the program does not end
     DWORD code = 0;
-    if (WaitForSingleObject(process_.hProcess, 10000) != WAIT_OBJECT_0) return -1;
+    WaitForSingleObject(process_.hProcess, 10000);
     GetExitCodeProcess(process_.hProcess, &code);
     return static_cast<int>(code);
   }
