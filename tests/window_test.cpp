@@ -116,5 +116,5 @@ TEST_F(OpenForm, RowsThatNameNoDay) {
   form.txbMetNum_KeyUp(Toolkit::EnterKey, 0);
   EXPECT_TRUE(Rows() == before && boxes.empty());
   form.optCalendar[1]->Select();
-  EXPECT_TRUE(form.optCalendar[1]->FontBold() && !form.optCalendar[0]->FontBold());
+  for (const std::size_t i : {0, 1, 2}) EXPECT_EQ(form.optCalendar[i]->FontBold(), i == 1);
 }
