@@ -90,7 +90,7 @@ void Native::PaintLater() {
 void Native::Paint() {
   paints_later_ = false;
   Send(WM_SETREDRAW, TRUE);
-  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }
 
 }  // namespace Win32
