@@ -155,6 +155,8 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
   Click(place.right - 8, place.top + 10);
   Click(place.left + 10, place.bottom + 8);  // its first item
   EXPECT_SEEN(Read(u"cboGMet") + Focus(), u"GMet-1cmdConvert");
+  const LRESULT left = Ask(u"cboGMet", CB_GETEDITSEL);
+  EXPECT_EQ(LOWORD(left), HIWORD(left));  // nothing stays selected where the focus is not
 }
 
 TEST_F(RealWindow, TickDisturbsNobody) {

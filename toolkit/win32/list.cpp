@@ -73,6 +73,13 @@ void List::Notified(WORD code) {
       chosen_ = -1;
       closed_text_ = TextOf(hwnd_);
       break;
+    case CBN_KILLFOCUS:
+      // A line to type in shows its selection also while it does not have the focus.
+      if (row_.properties.typed_in) {
+        const WORD end = HIWORD(Send(CB_GETEDITSEL));
+        Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
+      }
+      break;
     default:
       break;
   }
