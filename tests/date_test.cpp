@@ -3,7 +3,6 @@
 #include <chrono>
 
 #include "euro_date.h"
-#include "str_proc.h"
 
 using namespace DatePr2;
 
@@ -47,6 +46,4 @@ TEST(DateText, OrdersAndSigns) {
   EXPECT_EQ(std::string(buffer, 24), std::string("-12,345,678,901,234\0###", 23) + '\0');
   SystemDate = [] { return std::u16string(u"05-01-2010"); };
   EXPECT_EQ(DayOfWeekName(TodayJdn(), true) + WeekdayName(7, false), u"Saturday ");
-  for (const std::int32_t start : {-7, 3})
-    EXPECT_EQ(StrProc::FirstNotInSet(u"12a4", start, u"1234"), 3);
 }

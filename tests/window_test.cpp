@@ -96,11 +96,15 @@ TEST_F(OpenForm, ReadStatuses) {
     EXPECT_EQ(std::tuple(status, date.year, date.valid), std::tuple(expected, year, expected == 0));
   }
   // The other statuses of the lunar row bring up a box of their own.
-  Enter(2, u"GMet-2 B 12 LYC-15 LA-5 ?");
-  Karvel_Sorand::LksDate date{};
-  std::int16_t status = 9;
-  form.ReadLksDate(date, status);
-  EXPECT_TRUE(status == -10 && date.Valid == 0);
+  const std::pair<View, int> dates[] = {{u"GMet-2 B 65548 LYC-15 LA-5 24", -3},
+                                        {u"GMet-2 B 12 LYC-15 LA-5 ?", -10}};
+  for (const auto& [words, expected] : dates) {
+    Enter(2, words);
+    Karvel_Sorand::LksDate date{};
+    std::int16_t status = 9;
+    form.ReadLksDate(date, status);
+    EXPECT_TRUE(status == expected && date.Valid == 0) << expected;
+  }
 }
 
 TEST_F(OpenForm, RowsThatNameNoDay) {
