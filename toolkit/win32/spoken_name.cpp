@@ -1,9 +1,9 @@
 #include "spoken_name.h"
 
 #include <commctrl.h>
-#include <oleacc.h>
 
-#include <initializer_list>
+#include <initguid.h>  // defines what no library of MinGW-w64 does: PROPID_ACC_NAME
+#include <oleacc.h>
 
 namespace Win32 {
 
@@ -126,14 +126,26 @@ LRESULT CALLBACK Procedure(HWND control, UINT message, WPARAM wparam, LPARAM lpa
   return DefSubclassProc(control, message, wparam, lparam);
 }
 
+// A client of UI Automation may take what the system itself knows of a control, with the name from
+// an annotation. Wine has no annotations. The service lives as long as the program.
+IAccPropServices* Annotations() {
+  IAccPropServices* service = nullptr;
+  CoCreateInstance(CLSID_AccPropServices, nullptr, CLSCTX_INPROC_SERVER, IID_IAccPropServices,
+                   reinterpret_cast<void**>(&service));
+  return service;
+}
+
 }  // namespace
 
 void GiveSpokenName(HWND control, const wchar_t* name) {
   static const HRESULT com = CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
   if (FAILED(com)) return;
+  static IAccPropServices* const annotations = Annotations();
   constexpr UINT_PTR SubclassId = 1;
-  for (const HWND window : {control, GetWindow(control, GW_CHILD)}) {
+  for (HWND window = control; window; window = GetWindow(window, GW_CHILD)) {
     SetWindowSubclass(window, Procedure, SubclassId, reinterpret_cast<DWORD_PTR>(name));
+    if (!annotations) continue;
+    annotations->SetHwndPropStr(window, OBJID_CLIENT, CHILDID_SELF, PROPID_ACC_NAME, name);
   }
 }
 
