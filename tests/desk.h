@@ -30,19 +30,6 @@ inline RECT RectOf(HWND window) {
   return rect;
 }
 
-inline void SendKey(WORD key, WORD scan, DWORD flags) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki = {key, scan, flags, 0, 0};
-  SendInput(1, &input, sizeof input);
-}
-
-inline void Key(WORD key, bool down) {
-  const bool is_extended = key >= VK_PRIOR && key <= VK_DELETE;  // not those of the number block
-  SendKey(key, static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC)),
-          (down ? 0 : KEYEVENTF_KEYUP) | (is_extended ? KEYEVENTF_EXTENDEDKEY : 0));
-}
-
 // Keys that type nothing stand in a text as their number above FirstKey.
 constexpr char16_t FirstKey = 0xE000;
 constexpr char16_t Tab = FirstKey + VK_TAB, Return = FirstKey + VK_RETURN, F4 = FirstKey + VK_F4,
@@ -52,47 +39,53 @@ constexpr char16_t Tab = FirstKey + VK_TAB, Return = FirstKey + VK_RETURN, F4 = 
                    Shift = FirstKey + VK_SHIFT, Ctrl = FirstKey + VK_CONTROL,
                    Alt = FirstKey + VK_MENU;
 
+inline void Key(char16_t c, bool down) {
+  const bool types = c < FirstKey;
+  const WORD key = types ? 0 : c & 0xFF;
+  const WORD scan = types ? c : WORD(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
+  const bool is_extended = key >= VK_PRIOR && key <= VK_DELETE;  // not those of the number block
+  const DWORD flags = (types ? KEYEVENTF_UNICODE : 0) | (is_extended ? KEYEVENTF_EXTENDEDKEY : 0) |
+                      (down ? 0 : KEYEVENTF_KEYUP);
+  INPUT input = {.type = INPUT_KEYBOARD, .ki = {key, scan, flags, 0, 0}};
+  SendInput(1, &input, sizeof input);
+}
+
 // Presses and releases one key after the other; Shift, Ctrl and Alt together with the next one.
 inline void Press(const Text& keys) {
-  WORD held = 0;
+  char16_t held = 0;
   for (const char16_t c : keys) {
-    const WORD key = c & 0xFF;
     const bool stays_down = c == Shift || c == Ctrl || c == Alt;
-    if (c < FirstKey && !held) {
-      SendKey(0, c, KEYEVENTF_UNICODE);
-      SendKey(0, c, KEYEVENTF_UNICODE | KEYEVENTF_KEYUP);
-      continue;
-    }
-    Key(key, true);
-    if (!stays_down) Key(key, false);
+    Key(c, true);
+    if (!stays_down) Key(c, false);
     if (held) Key(held, false);
-    held = stays_down ? key : WORD{0};
+    held = stays_down ? c : u'\0';
   }
 }
 
-inline void Mouse(LONG x, LONG y, std::initializer_list<DWORD> events, int notches = 0) {
+// Moves the mouse, then does there what `events` say.
+inline void Mouse(int x, int y, std::initializer_list<DWORD> events, int data = 0) {
+  const LONG left = MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1,
+             top = MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
   for (const DWORD event : events) {
-    INPUT input = {};
-    input.type = INPUT_MOUSE;
-    input.mi.dx = MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-    input.mi.dy = MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-    input.mi.mouseData = static_cast<DWORD>(notches * WHEEL_DELTA);
-    input.mi.dwFlags = event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
+    const DWORD flags = event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
+    INPUT input = {.type = INPUT_MOUSE, .mi = {left, top, static_cast<DWORD>(data), flags, 0, 0}};
     SendInput(1, &input, sizeof input);
   }
 }
-inline void Click(LONG x, LONG y) {
-  Mouse(x, y, {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP});
-}
+constexpr std::initializer_list<DWORD> Click = {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
 
 // What is drawn, row by row, a letter a pixel: dark (#), yellow (y), blue (b) or another.
-using Picture = std::vector<std::string>;
+using Pixels = std::vector<std::string>;
 
-inline Picture Draw(int width, int height, const std::function<void(HDC dc)>& draw) {
-  Picture picture(std::size_t(height), std::string(std::size_t(width), ' '));
+// A part of the screen, with what `draw` draws onto it.
+inline Pixels PixelsOf(
+    const RECT& part, const std::function<void(HDC)>& draw = [](HDC) {}) {
+  const int width = part.right - part.left, height = part.bottom - part.top;
+  Pixels picture(std::size_t(height), std::string(std::size_t(width), ' '));
   const HDC screen = GetDC(nullptr), dc = CreateCompatibleDC(screen);
   const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
   SelectObject(dc, bitmap);
+  BitBlt(dc, 0, 0, width, height, screen, part.left, part.top, SRCCOPY);
   draw(dc);
   for (int at = 0; at < width * height; ++at) {
     const COLORREF color = GetPixel(dc, at % width, at / width);
@@ -107,31 +100,22 @@ inline Picture Draw(int width, int height, const std::function<void(HDC dc)>& dr
   return picture;
 }
 
-inline Picture PictureOf(const RECT& part) {  // of the screen
-  const int width = part.right - part.left, height = part.bottom - part.top;
-  return Draw(width, height, [&](HDC dc) {
-    BitBlt(dc, 0, 0, width, height, GetDC(nullptr), part.left, part.top, SRCCOPY);
-  });
-}
-
-inline Picture PictureOf(const Text& text, View face, int height, bool bold, COLORREF ground) {
+inline Pixels PixelsOf(const Text& text, View face, int height, bool bold, COLORREF ground) {
   SIZE size = {};
   const auto draw = [&](HDC dc) {
     SelectObject(dc, CreateFontW(-height, 0, 0, 0, bold ? 700 : 400, 0, 0, 0, DEFAULT_CHARSET, 0, 0,
                                  0, 0, Wide(Text(face))));
     SetBkColor(dc, ground);  // which TextOut fills behind the letters
-    GetTextExtentPoint32W(dc, Wide(text), int(text.size()), &size);
     TextOutW(dc, 0, 0, Wide(text), int(text.size()));
+    GetTextExtentPoint32W(dc, Wide(text), int(text.size()), &size);
   };
-  Draw(1, 1, draw);  // for its size
-  return Draw(size.cx, size.cy, draw);
+  PixelsOf({0, 0, 1, 1}, draw);  // for its size
+  return PixelsOf({0, 0, size.cx, size.cy}, draw);
 }
 
 // Whether all rows of `part` are in rows of `whole`, one below the other.
-inline bool Shows(const Picture& whole, const Picture& part) {
-  const auto holds = [](const std::string& seen, const std::string& row) {
-    return seen.find(row) != seen.npos;
-  };
+inline bool Shows(const Pixels& whole, const Pixels& part) {
+  const auto holds = [](auto& seen, auto& row) { return seen.find(row) != seen.npos; };
   return std::search(whole.begin(), whole.end(), part.begin(), part.end(), holds) != whole.end();
 }
 
@@ -145,29 +129,25 @@ struct Tandem : User {
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                   &process_);
+                   &process);
     const auto is_up = [this] {
       window = State().hwndActive;
       return IsInFront() && Focus() == u"cmdConvert" && !Read(u"txbOutput").empty();
     };
     if (!Holds(is_up, 60000)) throw std::runtime_error("tandem.exe shows no first screen");
   }
-  ~Tandem() override {
-    TerminateProcess(process_.hProcess, 99);
-    ExitCode();
-  }
+  ~Tandem() override { TerminateProcess(process.hProcess, 99), ExitCode(); }
 
+  PROCESS_INFORMATION process = {};
   HWND window = nullptr;
   HWND Control(View name) const {
-    for (const Toolkit::StoredControl& row : StoredLayout()) {
-      if (NameOf(row) == name) return GetDlgItem(window, FirstId + row.tab);
-    }
-    return nullptr;
+    const auto row = std::ranges::find(StoredLayout(), name, NameOf);
+    return GetDlgItem(window, FirstId + row->tab);
   }
   GUITHREADINFO State() const {
     GUITHREADINFO state = {};
     state.cbSize = sizeof state;
-    GetGUIThreadInfo(process_.dwThreadId, &state);
+    GetGUIThreadInfo(process.dwThreadId, &state);
     return state;
   }
   Text Focus() const {  // a list counts as focused also when the line in it is
@@ -185,8 +165,8 @@ struct Tandem : User {
   }
   int ExitCode() const {  // STILL_ACTIVE if the program does not end
     DWORD code = 0;
-    WaitForSingleObject(process_.hProcess, 10000);
-    GetExitCodeProcess(process_.hProcess, &code);
+    WaitForSingleObject(process.hProcess, 10000);
+    GetExitCodeProcess(process.hProcess, &code);
     return static_cast<int>(code);
   }
 
@@ -245,7 +225,7 @@ struct Tandem : User {
     EXPECT_SEEN(IsEnabled(button), true);
     GoTo(button);
     Press({Space});
-    if (button == u"cmdTBF0") Wait([&] { return Focus() == u"cmdConvert"; });
+    EXPECT_SEEN(button != u"cmdTBF0" || Focus() == u"cmdConvert", true);
   }
   Box CloseBox() override {
     EXPECT_SEEN(Message() && GetForegroundWindow() == Message(), true);
@@ -255,18 +235,14 @@ struct Tandem : User {
     std::string seen;
     Wait([&] {
       seen.clear();
-      for (const std::string& row : PictureOf(RectOf(icon))) seen += row;
+      for (const std::string& row : PixelsOf(RectOf(icon))) seen += row;
       return seen.front() == ' ' && seen.back() == ' ' && seen.find_first_of("yb") != seen.npos;
     });
-    const bool warns =
-        std::count(seen.begin(), seen.end(), 'y') > std::count(seen.begin(), seen.end(), 'b');
+    const bool warns = std::ranges::count(seen, 'y') > std::ranges::count(seen, 'b');
     Press({Return});
     EXPECT_SEEN(!Message() && IsInFront(), true);
     return {text, title, warns ? MB_ICONEXCLAMATION : MB_ICONINFORMATION};
   }
-
- private:
-  PROCESS_INFORMATION process_ = {};
 };
 
 }  // namespace Desk

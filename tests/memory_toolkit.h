@@ -59,7 +59,7 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   void BringUp() { on_screen = true, NoteActivated(); }
 
   std::map<Text, Toolkit::Control*> controls;
-  std::vector<Box> boxes;
+  Box box;
 
   Toolkit::Window& MainWindow() override { return *this; }
   Toolkit::Timer& MainTimer() override { return *this; }
@@ -76,7 +76,8 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     return control;
   }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
-    boxes.emplace_back(text, title, static_cast<int>(icon));
+    EXPECT_EQ(box, Box());  // never two at once
+    box = Box(text, title, static_cast<int>(icon));
   }
   void SetClipboardText(View) override {}
   void EndProgram() override {}
