@@ -104,7 +104,7 @@ inline void User::GivesCommands() {
       {2, u"GMet-1 A 1 LYB-1 LA-1 1", Back, u"Date too early", u"Back one day", 64},
       {0, u"December 17 8265", Forward, u"Date too late", u"Forward one day", 64},
       {1, u"December 19 8265", Back, u"Date too late", u"Back one day", 64},
-      {0, u"December 31 -9999", Forward, u"Date too early", u"Forward one day", 64},
+      {0, u"January 1 -9999", Forward, u"Date too early", u"Forward one day", 64},
       // clang-format on
   };
   Text pane = Read(u"txbOutput");

@@ -7,7 +7,7 @@ namespace {
 struct Form : testing::Test, User, Memory::Desktop {
   frmMain form{*this, {2, 1}, u"The notice"};
   Form() {
-    DatePr2::SystemDate = [] { return Text(u"01-01-2026"); };
+    DatePr2::SystemDate = [] { return Text(u"01-31-2026"); };
     form.Form_Load();
   }
   template <class T>
@@ -66,8 +66,8 @@ TEST_F(Form, LoadsAndOpensOnToday) {
   Enter(2, u"? ? bad");
   Push(u"cmdTBF0");
   EXPECT_EQ(Rows(),
-            u"January 1 2026 Thursday | January 1 2026 Saturday | "
-            u"GMet-2 A 13 LYC-12 LA-1 13 Saturday");
+            u"January 31 2026 Saturday | January 31 2026 Saturday | "
+            u"GMet-2 A 13 LYC-12 LB-2 13 Saturday");
   DatePr2::SystemDate = [] { return Text(u"12-18-8265"); };
   Push(u"cmdTBF0");
   EXPECT_EQ(CloseBox(), Box(u"Date too late", u"Today's date", 64));
