@@ -37,8 +37,8 @@ TEST(Gregorian, EveryDayOfEveryYear) {
 
 TEST(DateText, OrdersAndSigns) {
   InitDateTables();
-  const EuroDate date{-12345, 1, 2, 0, 0, 0};
-  EXPECT_EQ(DateText(date, DateOrderDMY, u", ", u""), u"02, 01, (-12345)");
-  EXPECT_EQ(DateText(date, DateOrderMDY, u"-", u","), u"01-02-(-12,345)");
-  EXPECT_EQ(DateText({10000, 1, 2, 0, 0, 0}, DateOrderYMD, u"", u","), u"10,0000102");
+  const EuroDate date{-123456, 1, 2, 0, 0, 0};
+  EXPECT_EQ(DateText(date, DateOrderDMY, u", ", u""), u"02, 01, (-123456)");
+  EXPECT_EQ(DateText(date, DateOrderYMD, u"", u","), u"-123,4560102");
+  EXPECT_EQ(DateText({10000, 1, 2, 0, 0, 0}, DateOrderMDY, u"-", u","), u"01-02-10,000");
 }

@@ -136,7 +136,7 @@ struct Tandem : User {
     };
     if (!Holds(is_up, 60000)) throw std::runtime_error("tandem.exe shows no first screen");
   }
-  ~Tandem() override { TerminateProcess(process.hProcess, 99), ExitCode(); }
+  ~Tandem() { TerminateProcess(process.hProcess, 99), ExitCode(); }
 
   PROCESS_INFORMATION process = {};
   HWND window = nullptr;

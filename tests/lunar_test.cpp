@@ -43,15 +43,14 @@ TEST_F(Lunar, EveryDayThereAndBack) {
           const bool is_long = date.Month == 12 ? date.YearType == u"B" : date.Month % 2 == 1;
           date.MonthType = is_long ? u"A" : u"B";
           for (date.Day = 1; date.Day <= (is_long ? 30 : 29); ++date.Day, ++jdn) {
-            ASSERT_EQ(JdnToLksDate(jdn, there, true), 0) << jdn;
-            ASSERT_TRUE(SameLksDate(there, date) && there.Jdn == jdn) << jdn;
+            ASSERT_TRUE(JdnToLksDate(jdn, there, true) == 0 && SameLksDate(there, date)) << jdn;
+            ASSERT_TRUE(LksDateToJdn(date) == jdn && CheckLksDate(date) == 0) << jdn;
+            ASSERT_TRUE(there.Jdn == jdn && there.Valid == LksTrue) << jdn;
+            ASSERT_TRUE(date.Jdn == jdn && date.Valid == LksTrue) << jdn;
             const auto at = static_cast<std::size_t>(date.Day) - 1;
             const char weekday = (is_long ? WeekdayInA : WeekdayInB)[at];
             ASSERT_EQ(LunarWeekdayName(date.Day, date.MonthType), Weekdays[weekday - '0']) << jdn;
             ASSERT_EQ(MoonPhaseName(date.Day), Phases[PhaseOfDay[at] - '0']) << jdn;
-            there.Jdn = 0;
-            ASSERT_TRUE(LksDateToJdn(there) == jdn && there.Jdn == jdn) << jdn;
-            ASSERT_TRUE(CheckLksDate(there) == 0 && there.Valid == LksTrue) << jdn;
           }
         }
       }
@@ -87,8 +86,10 @@ TEST_F(Lunar, StatusOfDates) {
   std::tuple<LksDate, int, std::int32_t> rows[] = {
       {{2, u"A", 1, u"B", 1, u"B", 12, 29, -1, 0, {}}, -6, 2374090},
       {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 0, {}}, -5, -1},
+      {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 0, {}}, -5, -1},
       {{2, u"A", 1, u"B", 1, u"D", 1, 1, -1, 0, {}}, -7, -1},
       {{2, u"A", 1, u"B", 1, u"A", 14, 1, -1, 0, {}}, -8, -1},
+      {{2, u"A", 1, u"B", 1, u"A", 0, 1, -1, 0, {}}, -8, -1},
       {{2, u"A", 1, u"B", 1, u"A", 1, 31, -1, 0, {}}, -10, -1}};
   for (auto& [date, status, jdn] : rows) {  // the day stays -1 before the last check
     EXPECT_EQ(CheckLksDate(date), status) << testing::PrintToString(LksDateLabel(date));

@@ -29,7 +29,6 @@ inline Text NameOf(const Toolkit::StoredControl& row) {
 }
 
 struct User {
-  virtual ~User() = default;
   virtual Text Read(View control) const = 0;
   virtual bool IsEnabled(View button) const = 0;
   virtual void Set(View field, View value) = 0;  // a list to an item, or the line in it to a text
@@ -113,9 +112,9 @@ inline void User::GivesCommands() {
     Push(u"cmdTBF0");
     Choose(Indexed(u"optCalendar", calendar));
     Enter(calendar, entry);
-    EXPECT_SEEN(Read(u"lblSameDay"), u"The dates above do not denote the same day.");
     const int can_step = style == 0 || button != Convert || outcome == NoLks ? 2 : 0;
     EXPECT_SEEN(IsEnabled(Back) + IsEnabled(Forward), can_step);
+    EXPECT_SEEN(Read(u"lblSameDay"), u"The dates above do not denote the same day.");
     Text expected = style == 0 ? outcome : Rows();
     Push(button);
     if (style != 0) {

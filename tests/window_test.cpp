@@ -21,6 +21,7 @@ struct Form : testing::Test, User, Memory::Desktop {
     return Text(list.Item(list.index));
   }
   bool IsEnabled(View button) const override {
+    Tick();  // which switches buttons on and off
     return The<Memory::CommandButton>(button).Enabled();
   }
   void Set(View field, View value) override {
@@ -42,7 +43,7 @@ struct Form : testing::Test, User, Memory::Desktop {
   }
   void Push(View button) override { The<Memory::CommandButton>(button).NotePressed(); }
   Box CloseBox() override { return std::exchange(box, {}); }
-  void Wait(const std::function<bool()>&) override { Tick(); }
+  void Wait(const std::function<bool()>&) override {}  // all else is there at once
 };
 
 }  // namespace
@@ -102,7 +103,6 @@ TEST_F(Form, RowsThatNameNoDay) {
   Tick();
   EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
   Enter(0, u"February 30 2010");
-  const Text before = Rows();
   Push(u"cmdTBF1");  // there is nothing to step from
-  EXPECT_TRUE(Rows() == before && box == Box());
+  EXPECT_TRUE(Row(0) == u"February 30 2010 " && box == Box());
 }
