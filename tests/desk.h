@@ -233,11 +233,11 @@ struct Tandem : User {
     const Text text = TextOf(FindWindowExW(box, icon, L"Static", nullptr)), title = TextOf(box);
     // The exclamation sign is yellow, the information sign blue, the ground neither.
     std::string seen;
-    Wait([&] {
+    EXPECT_TRUE(Holds([&] {
       seen.clear();
       for (const std::string& row : PixelsOf(RectOf(icon))) seen += row;
       return seen.front() == ' ' && seen.back() == ' ' && seen.find_first_of("yb") != seen.npos;
-    });
+    }));
     const bool warns = std::ranges::count(seen, 'y') > std::ranges::count(seen, 'b');
     Press({Return});
     EXPECT_SEEN(!Message() && IsInFront(), true);
