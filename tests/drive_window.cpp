@@ -260,6 +260,7 @@ TEST_F(RealWindow, TellsAScreenReaderEveryName) {
       ASSERT_NE(SysStringLen(name), 0u) << row.tab;
       EXPECT_EQ(Text(name, name + SysStringLen(name)),
                 row.spoken_name.empty() ? TextOf(control) : row.spoken_name);
+      object->Release();
     }
   }
 }
