@@ -51,7 +51,6 @@ struct CommandButton : Toolkit::CommandButton {
   void SetFocus() override { focus = this; }
   void ApplyEnabled() override {}
   bool HasFocus() const override { return focus == this; }
-  void PassFocusOn() override { focus = nullptr; }
 };
 
 struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {

@@ -105,7 +105,7 @@ void OptionButton::SetFontBold(bool bold) {
 
 void CommandButton::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
-  if (!enabled && HasFocus()) PassFocusOn();
+  if (!enabled && FocusHeir && HasFocus()) FocusHeir->SetFocus();
   enabled_ = enabled;
   ApplyEnabled();
 }

@@ -10,8 +10,8 @@
 //  3. A key-up is raised for a text box only if that key went down in that same box while it held
 //     the focus. So the Enter that closes a message box, which comes up in the box behind it, does
 //     not count there.
-//  4. A command button that turns disabled while it holds the focus first passes the focus on to
-//     the next control that can take it.
+//  4. A command button that turns disabled while it holds the focus first hands the focus to the
+//     button that the form has named for this, its FocusHeir.
 //
 // Texts are UTF-16. Lengths of the stored layout are in twips, 1/1440 of an inch.
 #pragma once
@@ -187,6 +187,7 @@ class CommandButton : public Control {
  public:
   explicit CommandButton(std::u16string_view caption) : caption_(caption) {}
   Event Click;
+  CommandButton* FocusHeir = nullptr;  // takes the focus when this one turns disabled under it
 
   const std::u16string& Caption() const { return caption_; }
   bool Enabled() const { return enabled_; }
@@ -197,7 +198,6 @@ class CommandButton : public Control {
  protected:
   virtual void ApplyEnabled() = 0;
   virtual bool HasFocus() const = 0;
-  virtual void PassFocusOn() = 0;
 
   // To be called by the platform when the user presses the button.
   void NotePressed();

@@ -80,6 +80,10 @@ void frmMain::WireEvents() {
   cmdCopy.Click = [this] { cmdCopy_Click(); };
   cmdClear.Click = [this] { cmdClear_Click(); };
   cmdQuit.Click = [this] { cmdQuit_Click(); };
+  // The commands that the tick disables. Behind two of them comes Quit, and one more Space there
+  // would end the program: the focus goes where every command leaves it.
+  for (auto* command : {&cmdClear, &cmdCopy, cmdTBF[1], cmdTBF[2]})
+    command->FocusHeir = &cmdConvert;
 }
 
 std::int16_t frmMain::SelectedCalendar() const {

@@ -88,7 +88,6 @@ class CommandButton : public Toolkit::CommandButton, public Native {
   void Notified(WORD code) override;
   void ApplyEnabled() override;
   bool HasFocus() const override { return window_.Focus() == hwnd_; }
-  void PassFocusOn() override { window_.PassFocusOn(); }
 };
 
 }  // namespace Win32

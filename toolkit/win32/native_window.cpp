@@ -97,10 +97,6 @@ void NativeWindow::SetFocusTo(HWND control) {
   }
 }
 
-void NativeWindow::PassFocusOn() {
-  SetFocusTo(GetNextDlgTabItem(hwnd_, Focus(), FALSE));
-}
-
 void NativeWindow::RememberFocus() {
   const HWND focus = GetFocus();
   if (focus && IsChild(hwnd_, focus)) remembered_focus_ = focus;

@@ -20,7 +20,6 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   // The control that has the focus, or that gets it when the window is active again.
   HWND Focus() const;
   void SetFocusTo(HWND control);
-  void PassFocusOn();  // to the next control in the tab order that can take it
 
  private:
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
