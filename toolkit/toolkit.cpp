@@ -85,6 +85,10 @@ void List::SetListIndex(int index) {
   Raise(Click);
 }
 
+void List::NoteChosen() {
+  Raise(Click);
+}
+
 void OptionButton::Select() {
   if (!Value()) {
     OptionButton* const before = group_.selected;

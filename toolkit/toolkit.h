@@ -149,6 +149,9 @@ class List : public Control {
   virtual void ApplyClear() = 0;
   virtual void ApplyListIndex(int index) = 0;
 
+  // To be called by the platform when the user has chosen an item.
+  void NoteChosen();
+
  private:
   std::vector<std::u16string> items_;
 };

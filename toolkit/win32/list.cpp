@@ -96,7 +96,7 @@ void List::Settled() {
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
   if (now < 0 || now == chosen_) return;
   chosen_ = now;
-  if (Click) Click();
+  NoteChosen();
 }
 
 void List::ApplyNewItem(const std::u16string& item) {
