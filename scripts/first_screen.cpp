@@ -5,11 +5,13 @@
 #include <cstdio>
 #include <iterator>
 
+#include "win32_toolkit.h"
+
 int main() {
-  constexpr int PaneId = 100;
+  constexpr int PaneId = Win32::FirstControlId;  // the first row of the layout
   wchar_t pane[1000] = L"";
   for (const DWORD start = GetTickCount(); !pane[0]; Sleep(10)) {
-    const HWND box = GetDlgItem(FindWindowW(L"TandemWindow", nullptr), PaneId);
+    const HWND box = GetDlgItem(FindWindowW(Win32::WindowClass, nullptr), PaneId);
     if (box) SendMessageW(box, WM_GETTEXT, std::size(pane), reinterpret_cast<LPARAM>(pane));
     if (GetTickCount() - start > 60000) return 1;
   }

@@ -142,7 +142,7 @@ struct Tandem : User {
   HWND window = nullptr;
   HWND Control(View name) const {
     const auto row = std::ranges::find(StoredLayout(), name, NameOf);
-    return GetDlgItem(window, FirstId + row->tab);
+    return GetDlgItem(window, FirstId + int(row - StoredLayout().begin()));
   }
   GUITHREADINFO State() const {
     GUITHREADINFO state = {};

@@ -177,7 +177,7 @@ TEST_F(RealWindow, TickDisturbsNobody) {
   EXPECT_EQ(Focus(), u"cmdTBF1");
   Fill(u"txbYearCE0", u"");
   EXPECT_SEEN(IsEnabled(u"cmdTBF1"), false);
-  EXPECT_SEEN(Focus(), u"txbOutput");
+  EXPECT_SEEN(Focus(), u"cmdConvert");
 }
 
 // Whatever is painted anew loses the spot that is drawn onto the screen here.
@@ -195,7 +195,8 @@ TEST_F(RealWindow, TickRepaintsNothing) {
   // nothing to wait for when nothing changes.
   for (const DWORD pause : {0, 2500}) {
     Sleep(pause);
-    for (const auto& row : StoredLayout()) EXPECT_EQ(spot(NameOf(row), GetPixel), Spot) << row.tab;
+    for (const auto& row : StoredLayout())
+      EXPECT_EQ(spot(NameOf(row), GetPixel), Spot) << testing::PrintToString(NameOf(row));
   }
   InvalidateRect(Control(u"txbYearCE0"), nullptr, TRUE);
   EXPECT_SEEN(spot(u"txbYearCE0", GetPixel) == Spot, false);
@@ -254,10 +255,10 @@ TEST_F(RealWindow, TellsAScreenReaderEveryName) {
       IAccessible* object = nullptr;
       AccessibleObjectFromWindow(asked, OBJID_CLIENT, __uuidof(IAccessible),
                                  reinterpret_cast<void**>(&object));
-      ASSERT_TRUE(object) << row.tab;
+      ASSERT_TRUE(object) << testing::PrintToString(NameOf(row));
       BSTR name = nullptr;
       object->get_accName(_variant_t(long{CHILDID_SELF}), &name);
-      ASSERT_NE(SysStringLen(name), 0u) << row.tab;
+      ASSERT_NE(SysStringLen(name), 0u) << testing::PrintToString(NameOf(row));
       EXPECT_EQ(Text(name, name + SysStringLen(name)),
                 row.spoken_name.empty() ? TextOf(control) : row.spoken_name);
       object->Release();

@@ -36,7 +36,7 @@ struct Font {
 
 enum class Kind { Frame, Label, TextBox, List, OptionButton, CommandButton };
 
-// One row of a window's stored layout.
+// One row of a window's stored layout. The rows stand in the tab order of their controls.
 struct StoredControl {
   std::u16string_view name;
   int index;  // in the group of controls that share the name; NoIndex for a control of its own
@@ -45,7 +45,6 @@ struct StoredControl {
     int left, top;
   } container;  // where left and top count from, itself counted from the corner of the client area
   int left, top, width, height;
-  int tab;  // position in the tab order, from 0
   std::u16string_view text;
   Font font;
   std::u16string_view spoken_name;  // what a screen reader says; empty: the caption serves

@@ -12,5 +12,5 @@ inline constexpr int ClientHeight = 6015;
 
 inline constexpr int Timer1Interval = 1000;  // milliseconds
 
-// The controls in tab order: row i has tab position i.
+// The controls in tab order: the tab position of a control is its row.
 std::span<const Toolkit::StoredControl> StoredLayout();

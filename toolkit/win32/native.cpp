@@ -10,9 +10,6 @@ namespace Win32 {
 
 namespace {
 
-// Dialogs answer to 1 and 2 as OK and Cancel, so the numbers of the controls begin higher.
-constexpr int FirstControlId = 100;
-
 // Bitmaps have a few sizes only. Where the window is not drawn at 96 dpi, the outlines of the same
 // letters stand in for them.
 const char16_t* FaceAt(std::u16string_view face, int dpi) {
@@ -58,7 +55,7 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
     : window_(window), row_(row) {
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
                           WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Handle(),
-                          reinterpret_cast<HMENU>(INT_PTR{FirstControlId + row.tab}),
+                          reinterpret_cast<HMENU>(INT_PTR{window.NewControlId()}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   if (!row.spoken_name.empty()) GiveSpokenName(hwnd_, Wide(row.spoken_name.data()));

@@ -4,7 +4,6 @@ namespace Win32 {
 
 namespace {
 
-constexpr wchar_t ClassName[] = L"TandemWindow";
 constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 constexpr UINT_PTR TimerId = 1;
 constexpr COLORREF Black = RGB(0, 0, 0);
@@ -36,7 +35,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   window_class.hIconSm = ProgramIcon(SM_CXSMICON, SM_CYSMICON);
   window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-  window_class.lpszClassName = ClassName;
+  window_class.lpszClassName = WindowClass;
   RegisterClassExW(&window_class);
 
   // A dialog comes from a template; this one holds no controls. Behind the header follow, as texts,
@@ -44,10 +43,10 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   struct alignas(DWORD) {
     DLGTEMPLATE header;
     WORD menu;
-    wchar_t class_name[std::size(ClassName)];
+    wchar_t class_name[std::size(WindowClass)];
     WORD caption;
   } dialog = {{WindowStyle, 0, 0, 0, 0, 0, 0}, 0, {}, 0};
-  std::copy(std::begin(ClassName), std::end(ClassName), dialog.class_name);
+  std::copy(std::begin(WindowClass), std::end(WindowClass), dialog.class_name);
   hwnd_ = CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The dialog manager would scale the controls by itself, from rounded pixels.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "native.h"
+#include "win32_toolkit.h"
 
 namespace Win32 {
 
@@ -12,6 +13,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
 
   HWND Handle() const { return hwnd_; }
   int Dpi() const { return dpi_; }
+  int NewControlId() { return next_control_id_++; }
 
   int RunLoop();  // brings the window to the screen and serves it; gives the exit code
   void End();     // ends RunLoop
@@ -40,6 +42,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   int client_width_, client_height_;  // twips
   HWND hwnd_ = nullptr;
   int dpi_ = 96;
+  int next_control_id_ = FirstControlId;
   HWND remembered_focus_ = nullptr;
 };
 

@@ -8,6 +8,11 @@
 
 namespace Win32 {
 
+// By these a program finds the window and its controls from outside. The controls are numbered as
+// the rows of the stored layout; 1 and 2 are OK and Cancel to a dialog, so they begin higher.
+inline constexpr wchar_t WindowClass[] = L"TandemWindow";
+inline constexpr int FirstControlId = 100;
+
 class Desktop : public Toolkit::Desktop {
  public:
   // Brings the window to the screen, in the middle of it, and serves it until the program ends.
