@@ -2,63 +2,88 @@
 #pragma once
 
 #include <map>
+#include <memory>
 
 #include "scenarios.h"
 #include "toolkit.h"
 
 namespace Memory {
 
-inline const Toolkit::Control* focus;  // of the one window
-inline bool on_screen;                 // whether that has been brought up
+struct Screen {
+  bool is_on = false;                       // the one window has been brought up
+  const Toolkit::Control* focus = nullptr;  // of that window
+  int platform_calls = 0;                   // how often a control has had to do something
+};
+inline Screen screen;
 
 struct Frame : Toolkit::Frame {
-  void ApplyBackColor() override {}
+  void ApplyBackColor() override { ++screen.platform_calls; }
 };
+
 struct Label : Toolkit::Label {
   using Toolkit::Label::Label;
-  void ApplyBackColor() override {}
-  void ApplyCaption() override {}
+  void ApplyBackColor() override { ++screen.platform_calls; }
+  void ApplyCaption() override { ++screen.platform_calls; }
 };
+
 struct TextBox : Toolkit::TextBox {
+  using Toolkit::TextBox::NoteFocusLost;
+  using Toolkit::TextBox::NoteKeyDown;
+  using Toolkit::TextBox::NoteKeyUp;
   explicit TextBox(View stored) : text(stored) {}
   std::u16string text;
+  Selection selection = {0, 0};
   std::u16string Text() const override { return text; }
   std::int32_t TextLength() const override { return static_cast<std::int32_t>(text.size()); }
   void AppendText(View more) override { text += more; }
-  void SetSelStart(std::int32_t) override {}
-  void ApplyText(View all) override { text = all; }
-  Selection SelectedText() const override { return {}; }
-  void SelectText(Selection) override {}
+  void SetSelStart(std::int32_t position) override { selection = {position, position}; }
+  void ApplyText(View all) override {
+    ++screen.platform_calls;
+    text = all;
+    selection = {0, 0};
+  }
+  Selection SelectedText() const override { return selection; }
+  void SelectText(Selection stretch) override { selection = stretch; }
 };
+
 struct List : Toolkit::List {
+  using Toolkit::List::NoteChosen;
   int index = -1;
   int ListIndex() const override { return index; }
   void ApplyNewItem(const std::u16string&) override {}
   void ApplyClear() override { index = -1; }
-  void ApplyListIndex(int item) override { index = item; }
+  void ApplyListIndex(int item) override {
+    ++screen.platform_calls;
+    index = item;
+  }
 };
+
 struct OptionButton : Toolkit::OptionButton {
   using Toolkit::OptionButton::NoteChosen;
   using Toolkit::OptionButton::OptionButton;
-  void ApplyBackColor() override {}
-  void ApplyValue() override {}
-  void ApplyFontBold() override {}
+  void ApplyBackColor() override { ++screen.platform_calls; }
+  void ApplyValue() override { ++screen.platform_calls; }
+  void ApplyFontBold() override { ++screen.platform_calls; }
 };
+
 struct CommandButton : Toolkit::CommandButton {
   using Toolkit::CommandButton::CommandButton;
   using Toolkit::CommandButton::NotePressed;
-  bool Visible() const override { return on_screen; }
-  void SetFocus() override { focus = this; }
-  void ApplyEnabled() override {}
-  bool HasFocus() const override { return focus == this; }
+  bool Visible() const override { return screen.is_on; }
+  void SetFocus() override { screen.focus = this; }
+  void ApplyEnabled() override { ++screen.platform_calls; }
+  bool HasFocus() const override { return screen.focus == this; }
 };
 
 struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
-  Desktop() { focus = nullptr, on_screen = false; }
-  void BringUp() { on_screen = true, NoteActivated(); }
+  using Toolkit::Window::NoteActivated;
+  Desktop() { screen = {}; }
 
   std::map<Text, Toolkit::Control*> controls;
-  Box box;
+  std::optional<Box> box;
+  Text clipboard;
+  int milliseconds = 0;  // between two ticks
+  bool has_ended = false;
 
   Toolkit::Window& MainWindow() override { return *this; }
   Toolkit::Timer& MainTimer() override { return *this; }
@@ -75,14 +100,14 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     return control;
   }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
-    EXPECT_EQ(box, Box());  // never two at once
-    box = Box(text, title, static_cast<int>(icon));
+    EXPECT_FALSE(box.has_value()) << "two boxes at once";
+    box = Box{Text(text), Text(title), icon};
   }
-  void SetClipboardText(View) override {}
-  void EndProgram() override {}
-  void ApplyCaption() override {}
-  void ApplyBackColor() override {}
-  void Enable(int) override {}
+  void SetClipboardText(View text) override { clipboard = text; }
+  void EndProgram() override { has_ended = true; }
+  void ApplyCaption() override { ++screen.platform_calls; }
+  void ApplyBackColor() override { ++screen.platform_calls; }
+  void Enable(int pause) override { milliseconds = pause; }
 
   Toolkit::OptionGroup options;
 };
