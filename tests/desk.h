@@ -125,8 +125,8 @@ struct Tandem : User {
   }
 
   HWND Control(View name) const {
-    const auto row = std::ranges::find(StoredLayout(), name, NameOf);
-    return GetDlgItem(window, Win32::FirstControlId + int(row - StoredLayout().begin()));
+    const auto row = std::ranges::find(Layout::Rows, name, NameOf);
+    return GetDlgItem(window, Win32::FirstControlId + int(row - std::begin(Layout::Rows)));
   }
   LRESULT Ask(View control, UINT message, int number = 0) const {
     return SendMessageW(Control(control), message, static_cast<WPARAM>(number), 0);
@@ -153,7 +153,7 @@ struct Tandem : User {
     const HWND parent = GetParent(front.hwndFocus);
     const int id = GetDlgCtrlID(parent == window ? front.hwndFocus : parent);
     const auto row = static_cast<std::size_t>(id - Win32::FirstControlId);
-    return row < StoredLayout().size() ? NameOf(StoredLayout()[row]) : u"";
+    return row < std::size(Layout::Rows) ? NameOf(Layout::Rows[row]) : u"";
   }
 
   // At the limit the state is what it is, and does not pass for the one that was waited for.

@@ -43,7 +43,7 @@ TEST_F(RealWindow, StandsAsStored) {
 
   const std::wstring_view classes[] = {L"Button",   L"Static", L"Edit",
                                        L"ComboBox", L"Button", L"Button"};
-  for (const Toolkit::StoredControl& row : StoredLayout()) {
+  for (const Toolkit::StoredControl& row : Layout::Rows) {
     const Text name = NameOf(row);
     SCOPED_TRACE(testing::PrintToString(name));
     RECT place = RectOf(Control(name));

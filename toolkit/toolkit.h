@@ -81,10 +81,14 @@ class Coloured {
   Color back_color_ = UsualColor;
 };
 
-class Frame : public Control, public Coloured {};
+class Frame : public Control, public Coloured {
+ public:
+  static constexpr Kind OwnKind = Kind::Frame;
+};
 
 class Label : public Control, public Coloured {
  public:
+  static constexpr Kind OwnKind = Kind::Label;
   explicit Label(std::u16string_view caption) : caption_(caption) {}
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption);
@@ -98,6 +102,8 @@ class Label : public Control, public Coloured {
 
 class TextBox : public Control {
  public:
+  static constexpr Kind OwnKind = Kind::TextBox;
+
   // A stretch of characters, counted from 0; an empty one is the caret's place.
   struct Selection {
     std::int32_t start, end;
@@ -134,6 +140,7 @@ inline constexpr std::int16_t EnterKey = 13;
 
 class List : public Control {
  public:
+  static constexpr Kind OwnKind = Kind::List;
   Event Click;
 
   void AddItem(std::u16string_view item);
@@ -164,6 +171,7 @@ struct OptionGroup {
 
 class OptionButton : public Control, public Coloured {
  public:
+  static constexpr Kind OwnKind = Kind::OptionButton;
   explicit OptionButton(OptionGroup& group) : group_(group) {}
   Event Click;
 
@@ -187,6 +195,7 @@ class OptionButton : public Control, public Coloured {
 
 class CommandButton : public Control {
  public:
+  static constexpr Kind OwnKind = Kind::CommandButton;
   explicit CommandButton(std::u16string_view caption) : caption_(caption) {}
   Event Click;
   CommandButton* FocusHeir = nullptr;  // takes the focus when this one turns disabled under it

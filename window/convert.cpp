@@ -31,13 +31,13 @@ constexpr std::u16string_view DoesNotExist[] = {u"The Gregorian date is invalid.
 void frmMain::cmdConvert_Click() {
   LksDate lks{};
   EuroDate euro{};
-  lblDayOfWeek[2]->SetCaption(u"");
-  const std::int16_t calendar = SelectedCalendar();
+  lblDayOfWeek[Lunar].SetCaption(u"");
+  const Calendar calendar = SelectedCalendar();
   const bool converted =
-      calendar == 2 ? ConvertFromLks(euro, lks) : ConvertFromEuro(calendar, euro, lks);
+      calendar == Lunar ? ConvertFromLks(euro, lks) : ConvertFromEuro(calendar, euro, lks);
   if (!converted) return;
   AppendBlock(calendar, euro, lks);
-  CheckSameDay(-1);
+  CheckSameDay(CompareRows);
 }
 
 bool frmMain::ConvertFromLks(EuroDate& euro, LksDate& lks) {
@@ -51,22 +51,21 @@ bool frmMain::ConvertFromLks(EuroDate& euro, LksDate& lks) {
   euro.calendar = GregorianCalendar;
   euro.jdn = lks.Jdn;
   DatePr2::JdnToEuroDate(euro);
-  ShowEuroDate(euro, 0);
-  ShowEuroDate(euro, 1);
+  ShowEuroDate(euro, Gregorian);
+  ShowEuroDate(euro, Solar);
   return true;
 }
 
 bool frmMain::ConvertFromEuro(std::int16_t Index, EuroDate& euro, LksDate& lks) {
-  const auto row = static_cast<std::size_t>(Index);
   std::int16_t status = 0;
   ReadEuroDate(Index, euro, status);
   if (status < 0) {
-    desktop.ShowMessage(Unreadable[row], InvalidInput, Icon::Exclamation);
+    desktop.ShowMessage(Unreadable[Index], InvalidInput, Icon::Exclamation);
     return false;
   }
   DatePr2::EuroDateToJdn(euro);
   if (euro.valid == 0) {
-    desktop.ShowMessage(DoesNotExist[row], InvalidInput, Icon::Information);
+    desktop.ShowMessage(DoesNotExist[Index], InvalidInput, Icon::Information);
     return false;
   }
   if (JdnToLksDate(euro.jdn, lks, true) < 0) {
@@ -74,19 +73,19 @@ bool frmMain::ConvertFromEuro(std::int16_t Index, EuroDate& euro, LksDate& lks) 
     return false;
   }
   ShowLksDate(lks);
-  ShowEuroDate(euro, 1);
-  ShowEuroDate(euro, 0);
+  ShowEuroDate(euro, Solar);
+  ShowEuroDate(euro, Gregorian);
   return true;
 }
 
-void frmMain::AppendBlock(std::int16_t calendar, const EuroDate& euro, const LksDate& lks) {
+void frmMain::AppendBlock(Calendar calendar, const EuroDate& euro, const LksDate& lks) {
   const std::u16string date = DatePr2::DateText(euro, DatePr2::DateOrderYMD, u"-", u"");
-  const std::u16string lines[] = {date + u" (" + lblDayOfWeek[0]->Caption() + u" in 7-day week)",
-                                  date + u" (" + lblDayOfWeek[1]->Caption() + u" in 7/8-day week)",
-                                  lks.Label};
+  const std::u16string lines[] = {
+      date + u" (" + lblDayOfWeek[Gregorian].Caption() + u" in 7-day week)",
+      date + u" (" + lblDayOfWeek[Solar].Caption() + u" in 7/8-day week)", lks.Label};
   // The line of the selected calendar comes first, the others follow in their order.
   std::u16string block = u"  " + lines[calendar] + u"\r\n";
-  for (std::int16_t other = 0; other <= 2; ++other) {
+  for (const Calendar other : {Gregorian, Solar, Lunar}) {
     if (other != calendar) block += u"= " + lines[other] + u"\r\n";
   }
   block += u"\r\n";
@@ -95,10 +94,9 @@ void frmMain::AppendBlock(std::int16_t calendar, const EuroDate& euro, const Lks
 }
 
 void frmMain::txbYearCE_KeyUp(std::int16_t Index, std::int16_t KeyCode, std::int16_t) {
-  const auto row = static_cast<std::size_t>(Index);
-  if (KeyCode == Toolkit::EnterKey && optCalendar[row]->Value()) cmdConvert_Click();
+  if (KeyCode == Toolkit::EnterKey && optCalendar[Index].Value()) cmdConvert_Click();
 }
 
 void frmMain::txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t) {
-  if (KeyCode == Toolkit::EnterKey && optCalendar[2]->Value()) cmdConvert_Click();
+  if (KeyCode == Toolkit::EnterKey && optCalendar[Lunar].Value()) cmdConvert_Click();
 }

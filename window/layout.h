@@ -2,8 +2,6 @@
 // lengths are in twips, 1/1440 of an inch.
 #pragma once
 
-#include <span>
-
 #include "toolkit.h"
 
 // The client area. The window is of fixed size and opens in the middle of the screen.
@@ -12,5 +10,87 @@ inline constexpr int ClientHeight = 6015;
 
 inline constexpr int Timer1Interval = 1000;  // milliseconds
 
-// The controls in tab order: the tab position of a control is its row.
-std::span<const Toolkit::StoredControl> StoredLayout();
+namespace Layout {
+
+using enum Toolkit::Kind;
+using Toolkit::NoIndex;
+
+inline constexpr Toolkit::Font Sans = {u"MS Sans Serif", 195};      // 9.75 points
+inline constexpr Toolkit::Font BigSans = {u"MS Sans Serif", 270};   // 13.5 points
+inline constexpr Toolkit::Font Typewriter = {u"Courier New", 195};  // 9.75 points
+
+inline constexpr int FrameLeft = 120;
+inline constexpr int FrameTop = 120;
+inline constexpr Toolkit::StoredControl::Corner OnWindow = {0, 0};
+inline constexpr Toolkit::StoredControl::Corner InFrame = {FrameLeft, FrameTop};
+
+// clang-format off
+// In tab order: the tab position of a control is its row.
+// name, index, kind, container, left, top, width, height, text, font, spoken name, properties
+inline constexpr Toolkit::StoredControl Rows[] = {
+    {u"txbOutput", NoIndex, TextBox, OnWindow, 120, 2640, 9495, 2775,
+     u"", Typewriter, u"Output", {.several_lines = true}},
+    {u"cmdClear", NoIndex, CommandButton, OnWindow, 9840, 4560, 2055, 369,
+     u"Clear output", Sans, u"", {}},
+    {u"cmdCopy", NoIndex, CommandButton, OnWindow, 9840, 4080, 2055, 369,
+     u"Copy to clipboard", Sans, u"", {}},
+    {u"cmdQuit", NoIndex, CommandButton, OnWindow, 9840, 5040, 2055, 369,
+     u"Quit", Sans, u"", {}},
+    {u"lblCopyright", NoIndex, Label, OnWindow, 120, 5600, 9495, 255,
+     u"", Sans, u"", {.centred = true}},
+    {u"Frame1", NoIndex, Frame, OnWindow, FrameLeft, FrameTop, 11775, 2415,
+     u"", Sans, u"Date", {}},
+    {u"txbYearCE", 1, TextBox, InFrame, 6795, 765, 735, 360,
+     u"2399", Sans, u"Solar year", {.max_length = 5}},
+    {u"cboDay", 1, List, InFrame, 6040, 765, 600, 360,
+     u"", Sans, u"Solar day", {}},
+    {u"cboMonth", 1, List, InFrame, 4440, 765, 1455, 360,
+     u"", Sans, u"Solar month", {}},
+    {u"txbYearCE", 0, TextBox, InFrame, 6795, 240, 735, 360,
+     u"2399", Sans, u"Gregorian year", {.max_length = 5}},
+    {u"cboDay", 0, List, InFrame, 6040, 240, 600, 360,
+     u"", Sans, u"Gregorian day", {}},
+    {u"cboMonth", 0, List, InFrame, 4440, 240, 1455, 360,
+     u"", Sans, u"Gregorian month", {}},
+    {u"lblSameDay", NoIndex, Label, InFrame, 4440, 1920, 4335, 255,
+     u"The dates above do not denote the same day.", Sans, u"", {}},
+    {u"lblDayOfWeek", 0, Label, InFrame, 7680, 300, 1605, 345,
+     u"Monday", Sans, u"", {}},
+    {u"lblDayOfWeek", 1, Label, InFrame, 7680, 800, 1605, 345,
+     u"Lunaday", Sans, u"", {}},
+    {u"optCalendar", 0, OptionButton, InFrame, 120, 240, 3975, 495,
+     u"Gregorian (7-day week)", Sans, u"", {}},
+    {u"optCalendar", 1, OptionButton, InFrame, 120, 720, 4335, 495,
+     u"Solar Karvel-Gregorian (7/8-day week)", Sans, u"", {}},
+    {u"optCalendar", 2, OptionButton, InFrame, 120, 1200, 4335, 495,
+     u"Lunar Karvel-Sorand (7/8-day week)", Sans, u"", {}},
+    {u"lblDayOfWeek", 2, Label, InFrame, 10400, 1380, 1125, 345,
+     u"Wednesday", Sans, u"", {}},
+    {u"cboMonth", 2, List, InFrame, 8540, 1320, 975, 360,
+     u"", Sans, u"Lunar month", {}},
+    {u"cboDay", 2, List, InFrame, 9700, 1320, 600, 360,
+     u"", Sans, u"Lunar day", {}},
+    {u"lblM", NoIndex, Label, InFrame, 5640, 1365, 255, 360,
+     u"M", Sans, u"", {}},
+    {u"lblDash", NoIndex, Label, InFrame, 6430, 1280, 195, 360,
+     u"-", BigSans, u"", {}},
+    {u"cboMType", NoIndex, List, InFrame, 5880, 1320, 500, 360,
+     u"Combo1", Sans, u"Metonic cycle type", {.typed_in = true}},
+    {u"cboYearInMet", NoIndex, List, InFrame, 7270, 1320, 1095, 360,
+     u"Combo1", Sans, u"Year in Metonic cycle", {.typed_in = true}},
+    {u"cboGMet", NoIndex, List, InFrame, 4440, 1320, 1095, 360,
+     u"Combo1", Sans, u"Great cycle", {.typed_in = true}},
+    {u"txbMetNum", NoIndex, TextBox, InFrame, 6570, 1320, 495, 360,
+     u"301", Sans, u"Metonic cycle number", {.max_length = 3}},
+    {u"cmdConvert", NoIndex, CommandButton, InFrame, 360, 1800, 3015, 369,
+     u"Convert selected date", Sans, u"", {}},
+    {u"cmdTBF", 0, CommandButton, OnWindow, 9840, 2640, 2055, 369,
+     u"Today's date", Sans, u"", {}},
+    {u"cmdTBF", 1, CommandButton, OnWindow, 9840, 3120, 2055, 369,
+     u"Back one day", Sans, u"", {}},
+    {u"cmdTBF", 2, CommandButton, OnWindow, 9840, 3600, 2055, 369,
+     u"Forward one day", Sans, u"", {}},
+};
+// clang-format on
+
+}  // namespace Layout

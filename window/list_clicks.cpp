@@ -1,24 +1,24 @@
 #include "main_window.h"
 
 void frmMain::cboGMet_Click() {
-  lblDayOfWeek[2]->SetCaption(u"");
+  lblDayOfWeek[Lunar].SetCaption(u"");
   FocusConvert();
 }
 
 void frmMain::cboYearInMet_Click() {
-  lblDayOfWeek[2]->SetCaption(u"");
+  lblDayOfWeek[Lunar].SetCaption(u"");
   FocusConvert();
 }
 
 void frmMain::cboMonth_Click(std::int16_t Index) {
   if (!FormLoaded) return;
-  lblDayOfWeek[static_cast<std::size_t>(Index)]->SetCaption(u"");
+  lblDayOfWeek[Index].SetCaption(u"");
   FocusConvert();
 }
 
 void frmMain::cboDay_Click(std::int16_t Index) {
   if (!FormLoaded) return;
-  lblDayOfWeek[static_cast<std::size_t>(Index)]->SetCaption(u"");
+  lblDayOfWeek[Index].SetCaption(u"");
   FocusConvert();
 }
 

@@ -4,55 +4,56 @@ using namespace Toolkit;
 
 namespace {
 
-std::vector<std::unique_ptr<Control>> NewControls(Desktop& desktop) {
-  std::vector<std::unique_ptr<Control>> controls;
-  for (const StoredControl& row : StoredLayout()) controls.push_back(desktop.NewControl(row));
+using Controls = std::vector<std::unique_ptr<Control>>;
+
+Controls NewControls(Desktop& desktop) {
+  Controls controls;
+  for (const StoredControl& row : Layout::Rows) controls.push_back(desktop.NewControl(row));
   return controls;
 }
 
-}  // namespace
-
 template <class T>
-T& frmMain::Find(std::u16string_view name, int index) {
-  std::size_t row = 0;
-  while (StoredLayout()[row].name != name || StoredLayout()[row].index != index) ++row;
-  return static_cast<T&>(*controls[row]);
+T& Find(const Controls& controls, ControlRow<T> which) {
+  return static_cast<T&>(*controls[static_cast<std::size_t>(which.row)]);
 }
 
-template <class T, int count>
-std::array<T*, count> frmMain::FindGroup(std::u16string_view name) {
-  std::array<T*, count> group;
-  for (int index = 0; index < count; ++index) {
-    group[static_cast<std::size_t>(index)] = &Find<T>(name, index);
+template <class Group>
+Group FindGroup(const Controls& controls, GroupRows<Group> which) {
+  Group group;
+  for (int index = 0; index < Group::Count; ++index) {
+    Control& control = *controls[static_cast<std::size_t>(which.rows[index])];
+    group.members[index] = static_cast<typename Group::Member*>(&control);
   }
   return group;
 }
+
+}  // namespace
 
 frmMain::frmMain(Desktop& its_desktop, ProgramVersion its_version, std::u16string_view notice)
     : controls(NewControls(its_desktop)),
       desktop(its_desktop),
       window(desktop.MainWindow()),
       Timer1(desktop.MainTimer()),
-      Frame1(Find<Frame>(u"Frame1")),
-      txbOutput(Find<TextBox>(u"txbOutput")),
-      lblCopyright(Find<Label>(u"lblCopyright")),
-      cmdTBF(FindGroup<CommandButton, 3>(u"cmdTBF")),
-      cmdCopy(Find<CommandButton>(u"cmdCopy")),
-      cmdClear(Find<CommandButton>(u"cmdClear")),
-      cmdQuit(Find<CommandButton>(u"cmdQuit")),
-      cmdConvert(Find<CommandButton>(u"cmdConvert")),
-      optCalendar(FindGroup<OptionButton, 3>(u"optCalendar")),
-      cboMonth(FindGroup<List, 3>(u"cboMonth")),
-      cboDay(FindGroup<List, 3>(u"cboDay")),
-      txbYearCE(FindGroup<TextBox, 2>(u"txbYearCE")),
-      lblDayOfWeek(FindGroup<Label, 3>(u"lblDayOfWeek")),
-      cboGMet(Find<List>(u"cboGMet")),
-      cboMType(Find<List>(u"cboMType")),
-      cboYearInMet(Find<List>(u"cboYearInMet")),
-      txbMetNum(Find<TextBox>(u"txbMetNum")),
-      lblM(Find<Label>(u"lblM")),
-      lblDash(Find<Label>(u"lblDash")),
-      lblSameDay(Find<Label>(u"lblSameDay")),
+      Frame1(Find<Frame>(controls, u"Frame1")),
+      txbOutput(Find<TextBox>(controls, u"txbOutput")),
+      lblCopyright(Find<Label>(controls, u"lblCopyright")),
+      cmdTBF(FindGroup<decltype(cmdTBF)>(controls, u"cmdTBF")),
+      cmdCopy(Find<CommandButton>(controls, u"cmdCopy")),
+      cmdClear(Find<CommandButton>(controls, u"cmdClear")),
+      cmdQuit(Find<CommandButton>(controls, u"cmdQuit")),
+      cmdConvert(Find<CommandButton>(controls, u"cmdConvert")),
+      optCalendar(FindGroup<decltype(optCalendar)>(controls, u"optCalendar")),
+      cboMonth(FindGroup<decltype(cboMonth)>(controls, u"cboMonth")),
+      cboDay(FindGroup<decltype(cboDay)>(controls, u"cboDay")),
+      txbYearCE(FindGroup<decltype(txbYearCE)>(controls, u"txbYearCE")),
+      lblDayOfWeek(FindGroup<decltype(lblDayOfWeek)>(controls, u"lblDayOfWeek")),
+      cboGMet(Find<List>(controls, u"cboGMet")),
+      cboMType(Find<List>(controls, u"cboMType")),
+      cboYearInMet(Find<List>(controls, u"cboYearInMet")),
+      txbMetNum(Find<TextBox>(controls, u"txbMetNum")),
+      lblM(Find<Label>(controls, u"lblM")),
+      lblDash(Find<Label>(controls, u"lblDash")),
+      lblSameDay(Find<Label>(controls, u"lblSameDay")),
       version(its_version),
       copyright(notice) {
   WireEvents();
@@ -62,16 +63,18 @@ void frmMain::WireEvents() {
   window.Activate = [this] { Form_Activate(); };
   window.Unload = [this] { Form_Unload(); };
   Timer1.Tick = [this] { Timer1_Timer(); };
-  for (std::int16_t i = 0; i < 3; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    optCalendar[at]->Click = [this, i] { optCalendar_Click(i); };
-    cmdTBF[at]->Click = [this, i] { cmdTBF_Click(i); };
-    cboMonth[at]->Click = [this, i] { cboMonth_Click(i); };
-    cboDay[at]->Click = [this, i] { cboDay_Click(i); };
+  for (std::int16_t i = 0; i < optCalendar.Count; ++i) {
+    optCalendar[i].Click = [this, i] { optCalendar_Click(i); };
+    cboMonth[i].Click = [this, i] { cboMonth_Click(i); };
+    cboDay[i].Click = [this, i] { cboDay_Click(i); };
   }
-  for (std::int16_t i = 0; i < 2; ++i) {
-    txbYearCE[static_cast<std::size_t>(i)]->KeyUp =
-        [this, i](std::int16_t key, std::int16_t shift) { txbYearCE_KeyUp(i, key, shift); };
+  for (std::int16_t i = 0; i < txbYearCE.Count; ++i) {
+    txbYearCE[i].KeyUp = [this, i](std::int16_t key, std::int16_t shift) {
+      txbYearCE_KeyUp(i, key, shift);
+    };
+  }
+  for (std::int16_t i = 0; i < cmdTBF.Count; ++i) {
+    cmdTBF[i].Click = [this, i] { cmdTBF_Click(i); };
   }
   txbMetNum.KeyUp = [this](std::int16_t key, std::int16_t shift) { txbMetNum_KeyUp(key, shift); };
   cboGMet.Click = [this] { cboGMet_Click(); };
@@ -82,10 +85,10 @@ void frmMain::WireEvents() {
   cmdQuit.Click = [this] { cmdQuit_Click(); };
   // The commands that the tick disables. Behind two of them comes Quit, and one more Space there
   // would end the program: the focus goes where every command leaves it.
-  for (auto* command : {&cmdClear, &cmdCopy, cmdTBF[1], cmdTBF[2]})
+  for (auto* command : {&cmdClear, &cmdCopy, &cmdTBF[Back], &cmdTBF[Forward]})
     command->FocusHeir = &cmdConvert;
 }
 
-std::int16_t frmMain::SelectedCalendar() const {
-  return optCalendar[0]->Value() ? 0 : optCalendar[1]->Value() ? 1 : 2;
+Calendar frmMain::SelectedCalendar() const {
+  return optCalendar[Gregorian].Value() ? Gregorian : optCalendar[Solar].Value() ? Solar : Lunar;
 }

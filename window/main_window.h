@@ -1,16 +1,15 @@
 // The form frmMain: its controls and the handlers of their events.
 //
-// The index of a date control is its calendar: 0 Gregorian, 1 Solar Karvel-Gregorian, 2 Lunar
-// Karvel-Sorand. The date fields are the only store of the current date: ReadEuroDate and
-// ReadLksDate are the only ways from the fields into records, ShowEuroDate and ShowLksDate the only
-// ways back. A list or an option that is selected from code runs its click handler at once, and the
-// list handlers blank a weekday label; so whatever sets lists and a label writes the label last.
+// The index of a date control is its calendar. The date fields are the only store of the current
+// date: ReadEuroDate and ReadLksDate are the only ways from the fields into records, ShowEuroDate
+// and ShowLksDate the only ways back. A list or an option that is selected from code runs its click
+// handler at once, and the list handlers blank a weekday label; so whatever sets lists and a label
+// writes the label last.
 //
 // Reads, shows and the tick are silent; only a command shows a message box.
 #pragma once
 
-#include <array>
-
+#include "control_group.h"
 #include "euro_date.h"
 #include "layout.h"
 #include "lks_date.h"
@@ -20,15 +19,13 @@ struct ProgramVersion {
   int major_number, minor_number;
 };
 
+// The indexes of the controls, with the 16 bits of the handlers' arguments. Solar is the Solar
+// Karvel-Gregorian, Lunar the Lunar Karvel-Sorand calendar.
+enum Calendar : std::int16_t { Gregorian, Solar, Lunar };
+enum Step : std::int16_t { Today, Back, Forward };
+
 class frmMain {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout
-
-  // The control of a row of the stored layout. `T` must be the class of the row's kind.
-  template <class T>
-  T& Find(std::u16string_view name, int index = Toolkit::NoIndex);
-
-  template <class T, int count>
-  std::array<T*, count> FindGroup(std::u16string_view name);
 
  public:
   // `copyright` is the publisher's notice, one line.
@@ -40,12 +37,12 @@ class frmMain {
   Toolkit::Frame& Frame1;
   Toolkit::TextBox& txbOutput;
   Toolkit::Label& lblCopyright;
-  std::array<Toolkit::CommandButton*, 3> cmdTBF;  // 0 today, 1 back, 2 forward
+  ControlGroup<Toolkit::CommandButton, 3> cmdTBF;  // by Step; all others by Calendar
   Toolkit::CommandButton &cmdCopy, &cmdClear, &cmdQuit, &cmdConvert;
-  std::array<Toolkit::OptionButton*, 3> optCalendar;
-  std::array<Toolkit::List*, 3> cboMonth, cboDay;
-  std::array<Toolkit::TextBox*, 2> txbYearCE;
-  std::array<Toolkit::Label*, 3> lblDayOfWeek;
+  ControlGroup<Toolkit::OptionButton, 3> optCalendar;
+  ControlGroup<Toolkit::List, 3> cboMonth, cboDay;
+  ControlGroup<Toolkit::TextBox, 2> txbYearCE;
+  ControlGroup<Toolkit::Label, 3> lblDayOfWeek;
   Toolkit::List &cboGMet, &cboMType, &cboYearInMet;
   Toolkit::TextBox& txbMetNum;
   Toolkit::Label &lblM, &lblDash, &lblSameDay;
@@ -55,8 +52,9 @@ class frmMain {
   void Form_Load();
   void FillDateLists();
 
-  // read_date.cpp. Fill a record from row `Index` (0 or 1) or from the lunar row, and take the
-  // blanks off the ends of the text fields they read. A negative status says which field is bad:
+  // read_date.cpp. Fill a record from row `Index` (Gregorian or Solar) or from the lunar row, and
+  // take the blanks off the ends of the text fields they read. A negative status says which field
+  // is bad:
   //   ReadEuroDate: -1 the year is empty, -2 it holds a character other than a digit or "-", -3 a
   //     "-" stands behind another character, -4 it lies outside -9999 to 99999. The year is then
   //     not written and `valid` is 0. It does not test that the date exists.
@@ -65,8 +63,8 @@ class frmMain {
   void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);
   void ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status);
 
-  // show_date.cpp. Fill row `Index` (0 or 1) or the lunar row from a record. Row 1 takes its
-  // weekday from the label of the lunar row, so for one day ShowLksDate comes first.
+  // show_date.cpp. Fill row `Index` (Gregorian or Solar) or the lunar row from a record. Row 1
+  // takes its weekday from the label of the lunar row, so for one day ShowLksDate comes first.
   void ShowEuroDate(const EuroDate& date, std::int16_t Index);
   void ShowLksDate(const Karvel_Sorand::LksDate& date);
 
@@ -77,7 +75,8 @@ class frmMain {
   void txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
 
   // same_day.cpp. Says in lblSameDay whether the three rows denote one day, and gives that back.
-  // Mode 0 takes False and mode 1 takes True without reading anything.
+  // Mode 0 takes False and mode 1 takes True without reading anything; any other compares.
+  static constexpr std::int16_t CompareRows = -1;
   bool CheckSameDay(std::int16_t mode);
 
   // tick.cpp. Once a second: the same-day sentence, and which commands can be pressed.
@@ -91,9 +90,9 @@ class frmMain {
   void cboDay_Click(std::int16_t Index);
   void FocusConvert();  // if the Convert button is visible and enabled
 
-  // step.cpp. Moves all rows to today (0), or to the day before (1) or after (2) the date of the
-  // selected calendar; the pane stays as it is. Form_Activate makes the first screen: today,
-  // converted once.
+  // step.cpp. Moves all rows to today, or to the day before or after the date of the selected
+  // calendar, by the Step `Index`; the pane stays as it is. Form_Activate makes the first screen:
+  // today, converted once.
   void cmdTBF_Click(std::int16_t Index);
   void Form_Activate();
 
@@ -108,14 +107,14 @@ class frmMain {
   void WireEvents();
 
   // The row that the next command reads: the first option that is selected.
-  std::int16_t SelectedCalendar() const;
+  Calendar SelectedCalendar() const;
 
   // The JDN of the date of the selected calendar, if its row can be read and the date exists.
   bool ReadSelectedJdn(std::int32_t& jdn);
 
   bool ConvertFromLks(EuroDate& euro, Karvel_Sorand::LksDate& lks);
   bool ConvertFromEuro(std::int16_t Index, EuroDate& euro, Karvel_Sorand::LksDate& lks);
-  void AppendBlock(std::int16_t calendar, const EuroDate& euro, const Karvel_Sorand::LksDate& lks);
+  void AppendBlock(Calendar calendar, const EuroDate& euro, const Karvel_Sorand::LksDate& lks);
 
   ProgramVersion version;
   std::u16string copyright;

@@ -46,11 +46,10 @@ void TakeApart(std::u16string_view item, std::size_t prefix, std::u16string& typ
 }  // namespace
 
 void frmMain::ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status) {
-  const auto row = static_cast<std::size_t>(Index);
   date.calendar = GregorianCalendar;
-  date.month = SelectedNumber<std::int32_t>(*cboMonth[row]);
-  date.day = SelectedNumber<std::int32_t>(*cboDay[row]);
-  const std::u16string text = txbYearCE[row]->TrimText();
+  date.month = SelectedNumber<std::int32_t>(cboMonth[Index]);
+  date.day = SelectedNumber<std::int32_t>(cboDay[Index]);
+  const std::u16string text = txbYearCE[Index].TrimText();
   status = YearStatus(text);
   date.valid = status == 0 ? 1 : 0;
   if (status == 0) date.year = DecimalValue(text);
@@ -73,20 +72,20 @@ void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
   date.MetNum = FieldNumber(text);
 
   const std::u16string_view year = cboYearInMet.Item(cboYearInMet.ListIndex());
-  const std::u16string_view month = cboMonth[2]->Item(cboMonth[2]->ListIndex());
+  const std::u16string_view month = cboMonth[Lunar].Item(cboMonth[Lunar].ListIndex());
   if (year.empty() || month.empty()) {
     status = -5;
     return;
   }
   TakeApart(year, 2, date.YearType, date.YearInMet);
   TakeApart(month, 1, date.MonthType, date.Month);
-  date.Day = SelectedNumber<std::int16_t>(*cboDay[2]);
+  date.Day = SelectedNumber<std::int16_t>(cboDay[Lunar]);
   status = CheckLksDate(date);
 }
 
 bool frmMain::ReadSelectedJdn(std::int32_t& jdn) {
   std::int16_t status = 0;
-  if (SelectedCalendar() == 2) {
+  if (SelectedCalendar() == Lunar) {
     Karvel_Sorand::LksDate date{};
     ReadLksDate(date, status);
     if (status < 0) return false;

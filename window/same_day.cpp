@@ -4,20 +4,20 @@ bool frmMain::CheckSameDay(std::int16_t mode) {
   const auto rows_agree = [this] {
     EuroDate euro{};
     std::int32_t jdn[2] = {};
-    for (std::int16_t row = 0; row <= 1; ++row) {
+    for (const Calendar row : {Gregorian, Solar}) {
       std::int16_t status = 0;
       ReadEuroDate(row, euro, status);
       if (status != 0) return false;
       DatePr2::EuroDateToJdn(euro);
       jdn[row] = euro.jdn;
     }
-    if (jdn[0] != jdn[1]) return false;
+    if (jdn[Gregorian] != jdn[Solar]) return false;
     // The status does not matter: a lunar date that does not exist still adds up to a day, and any
     // other that is refused leaves Jdn at 0.
     Karvel_Sorand::LksDate lks{};
     std::int16_t status = 0;
     ReadLksDate(lks, status);
-    return lks.Jdn == jdn[0];
+    return lks.Jdn == jdn[Gregorian];
   };
   const bool same = mode == 0 ? false : mode == 1 ? true : rows_agree();
   lblSameDay.SetCaption(same ? u"The dates above denote the same day."

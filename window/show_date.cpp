@@ -23,18 +23,17 @@ void frmMain::ShowLksDate(const Karvel_Sorand::LksDate& date) {
   cboMType.SetListIndex(date.MetType.front() - u'A');
   txbMetNum.SetText(Decimal(date.MetNum));
   SelectItem(cboYearInMet, u"LY" + date.YearType + u"-" + Decimal(date.YearInMet));
-  SelectItem(*cboMonth[2], u"L" + date.MonthType + u"-" + Decimal(date.Month));
-  cboDay[2]->SetListIndex(date.Day - 1);
+  SelectItem(cboMonth[Lunar], u"L" + date.MonthType + u"-" + Decimal(date.Month));
+  cboDay[Lunar].SetListIndex(date.Day - 1);
   // Last: the selections above have blanked it.
-  lblDayOfWeek[2]->SetCaption(Karvel_Sorand::LunarWeekdayName(date.Day, date.MonthType));
+  lblDayOfWeek[Lunar].SetCaption(Karvel_Sorand::LunarWeekdayName(date.Day, date.MonthType));
 }
 
 void frmMain::ShowEuroDate(const EuroDate& date, std::int16_t Index) {
-  const auto row = static_cast<std::size_t>(Index);
-  cboMonth[row]->SetListIndex(date.month - 1);
-  cboDay[row]->SetListIndex(date.day - 1);
-  txbYearCE[row]->SetText(Decimal(date.year));
+  cboMonth[Index].SetListIndex(date.month - 1);
+  cboDay[Index].SetListIndex(date.day - 1);
+  txbYearCE[Index].SetText(Decimal(date.year));
   // Last, as above. The Solar row has the weekday of the lunar date.
-  lblDayOfWeek[row]->SetCaption(Index == 0 ? DatePr2::DayOfWeekName(date.jdn, false)
-                                           : lblDayOfWeek[2]->Caption());
+  lblDayOfWeek[Index].SetCaption(Index == Gregorian ? DatePr2::DayOfWeekName(date.jdn, false)
+                                                    : lblDayOfWeek[Lunar].Caption());
 }

@@ -1,8 +1,8 @@
 #include "main_window.h"
 
 void frmMain::optCalendar_Click(std::int16_t Index) {
-  for (std::int16_t option = 0; option <= 2; ++option) {
-    optCalendar[static_cast<std::size_t>(option)]->SetFontBold(option == Index);
+  for (int option = 0; option < optCalendar.Count; ++option) {
+    optCalendar[option].SetFontBold(option == Index);
   }
   FocusConvert();
 }

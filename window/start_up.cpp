@@ -54,21 +54,21 @@ void frmMain::Form_Load() {
   const Toolkit::Color color = window.BackColor();
   Frame1.SetBackColor(color);
   lblCopyright.SetBackColor(color);
-  for (std::size_t index = 0; index <= 2; ++index) {
-    optCalendar[index]->SetBackColor(color);
-    lblDayOfWeek[index]->SetBackColor(color);
+  for (const Calendar index : {Gregorian, Solar, Lunar}) {
+    optCalendar[index].SetBackColor(color);
+    lblDayOfWeek[index].SetBackColor(color);
   }
   lblSameDay.SetBackColor(color);
   lblM.SetBackColor(color);
   lblDash.SetBackColor(color);
 
-  optCalendar[0]->Select();
+  optCalendar[Gregorian].Select();
   DatePr2::InitDateTables();
   Karvel_Sorand::InitLksTables();
   FillDateLists();
 
-  txbYearCE[0]->SetText(u"");
-  txbYearCE[1]->SetText(u"");
+  txbYearCE[Gregorian].SetText(u"");
+  txbYearCE[Solar].SetText(u"");
   txbOutput.SetText(u"");
   Timer1.Enable(Timer1Interval);
   FormLoaded = true;
@@ -77,13 +77,13 @@ void frmMain::Form_Load() {
 void frmMain::FillDateLists() {
   const auto& months = DatePr2::MonthNames;
   const std::vector<std::u16string> month_items(months.begin() + 1, months.end());
-  FillList(*cboMonth[0], month_items, 0);
-  FillList(*cboMonth[1], month_items, 0);
-  FillList(*cboMonth[2], LunarMonths(), 0);
+  FillList(cboMonth[Gregorian], month_items, 0);
+  FillList(cboMonth[Solar], month_items, 0);
+  FillList(cboMonth[Lunar], LunarMonths(), 0);
   FillList(cboYearInMet, YearsOfMetCycle(), 0);
-  FillList(*cboDay[0], Numbers(31), 0);
-  FillList(*cboDay[1], Numbers(31), 0);
-  FillList(*cboDay[2], Numbers(30), 0);
+  FillList(cboDay[Gregorian], Numbers(31), 0);
+  FillList(cboDay[Solar], Numbers(31), 0);
+  FillList(cboDay[Lunar], Numbers(30), 0);
   FillList(cboMType, {u"A", u"B", u"C"}, 0);
   FillList(cboGMet, {u"GMet-1", u"GMet-2"}, 1);
 }

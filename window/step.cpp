@@ -5,15 +5,15 @@ using Toolkit::Icon;
 
 void frmMain::cmdTBF_Click(std::int16_t Index) {
   std::int32_t target = 0;
-  if (Index == 0) {
+  if (Index == Today) {
     target = DatePr2::TodayJdn();
   } else {
     if (!ReadSelectedJdn(target)) return;
-    target += Index == 1 ? -1 : 1;
+    target += Index == Back ? -1 : 1;
   }
 
   // The target counts, not the direction: from a day before the range, Forward too leads to one.
-  const std::u16string& title = cmdTBF[static_cast<std::size_t>(Index)]->Caption();
+  const std::u16string& title = cmdTBF[Index].Caption();
   if (target < Karvel_Sorand::MinLksJdn) {
     return desktop.ShowMessage(u"Date too early", title, Icon::Information);
   }
@@ -33,12 +33,12 @@ void frmMain::cmdTBF_Click(std::int16_t Index) {
     desktop.ShowMessage(u"Error " + StrProc::Decimal(status) + u" when getting LKS date", u"Error",
                         Icon::Exclamation);
   }
-  ShowEuroDate(euro, 0);
-  ShowEuroDate(euro, 1);
-  CheckSameDay(-1);
+  ShowEuroDate(euro, Gregorian);
+  ShowEuroDate(euro, Solar);
+  CheckSameDay(CompareRows);
 }
 
 void frmMain::Form_Activate() {
-  cmdTBF_Click(0);
+  cmdTBF_Click(Today);
   cmdConvert_Click();
 }

@@ -6,9 +6,9 @@ void frmMain::Timer1_Timer() {
   const bool has_text = txbOutput.TextLength() > 0;
   cmdClear.SetEnabled(has_text);
   cmdCopy.SetEnabled(has_text);
-  CheckSameDay(-1);
+  CheckSameDay(CompareRows);
   std::int32_t jdn = 0;
   const bool can_step = ReadSelectedJdn(jdn);
-  cmdTBF[1]->SetEnabled(can_step);
-  cmdTBF[2]->SetEnabled(can_step);
+  cmdTBF[Back].SetEnabled(can_step);
+  cmdTBF[Forward].SetEnabled(can_step);
 }

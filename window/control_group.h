@@ -1,0 +1,48 @@
+// From the names of the stored layout to its rows. The compiler goes this way: a name that the
+// layout does not have, or a row of another kind than asked for, does not build.
+#pragma once
+
+#include <iterator>
+#include <string_view>
+
+#include "layout.h"
+
+// Controls that share a name, told apart by an index from 0.
+template <class T, int count>
+struct ControlGroup {
+  using Member = T;
+  static constexpr int Count = count;
+  T* members[count];
+  T& operator[](int index) const { return *members[index]; }
+};
+
+// Never defined: a constant expression that gets here is none, and the compiler names this.
+void NoSuchRowInTheLayout();
+
+// The number of the row `name`, `index` of the layout, which must be of this kind.
+consteval int RowOf(std::u16string_view name, int index, Toolkit::Kind kind) {
+  for (int row = 0; row < static_cast<int>(std::size(Layout::Rows)); ++row) {
+    const Toolkit::StoredControl& stored = Layout::Rows[row];
+    if (stored.name == name && stored.index == index && stored.kind == kind) return row;
+  }
+  NoSuchRowInTheLayout();
+  return -1;
+}
+
+// The row of a control of the class T.
+template <class T>
+struct ControlRow {
+  int row;
+  consteval ControlRow(const char16_t* name) : row(RowOf(name, Toolkit::NoIndex, T::OwnKind)) {}
+};
+
+// The rows of a group, a ControlGroup.
+template <class Group>
+struct GroupRows {
+  int rows[Group::Count];
+  consteval GroupRows(const char16_t* name) {
+    for (int index = 0; index < Group::Count; ++index) {
+      rows[index] = RowOf(name, index, Group::Member::OwnKind);
+    }
+  }
+};
