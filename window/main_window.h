@@ -53,13 +53,18 @@ class frmMain {
   void FillDateLists();
 
   // read_date.cpp. Fill a record from row `Index` (Gregorian or Solar) or from the lunar row, and
-  // take the blanks off the ends of the text fields they read. A negative status says which field
-  // is bad:
-  //   ReadEuroDate: -1 the year is empty, -2 it holds a character other than a digit or "-", -3 a
-  //     "-" stands behind another character, -4 it lies outside -9999 to 99999. The year is then
-  //     not written and `valid` is 0. It does not test that the date exists.
-  //   ReadLksDate: -1 the cycle number is empty, -2 it holds a character other than a digit;
-  //     otherwise as for CheckLksDate, with -5 also for no year selected.
+  // take the blanks off the ends of the text fields they read. The status is 0 or says which field
+  // is bad. ReadEuroDate then leaves `year` as it was and sets `valid` to 0; it does not test that
+  // the date exists. ReadLksDate also gives the statuses of CheckLksDate, and LksWrongYear where no
+  // year is selected.
+  enum YearStatus : std::int16_t {
+    YearAccepted = 0,
+    YearEmpty = -1,
+    YearNotDigits = -2,    // a character other than a digit or "-"
+    YearMinusInside = -3,  // a "-" behind another character
+    YearOutOfRange = -4    // outside -9999 to 99999
+  };
+  enum MetNumStatus : std::int16_t { MetNumEmpty = -1, MetNumNotDigits = -2 };
   void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);
   void ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status);
 

@@ -19,13 +19,14 @@ Number SelectedNumber(const Toolkit::List& list) {
   return static_cast<Number>(list.ListIndex() + 1);
 }
 
-std::int16_t YearStatus(std::u16string_view text) {
-  if (text.empty()) return -1;
-  if (!StrProc::IsAllDigitsOr(text, u"-")) return -2;
+frmMain::YearStatus StatusOfYear(std::u16string_view text) {
+  if (text.empty()) return frmMain::YearEmpty;
+  if (!StrProc::IsAllDigitsOr(text, u"-")) return frmMain::YearNotDigits;
   const std::size_t last_minus = text.rfind(u'-');
-  if (last_minus != text.npos && last_minus > 0) return -3;
+  if (last_minus != text.npos && last_minus > 0) return frmMain::YearMinusInside;
   const std::int32_t year = DecimalValue(text);
-  return year < MinYear || year > MaxYear ? -4 : 0;
+  const bool in_range = year >= MinYear && year <= MaxYear;
+  return in_range ? frmMain::YearAccepted : frmMain::YearOutOfRange;
 }
 
 // The number at the start of `text`, or the nearest that a field of the record holds; the check of
@@ -50,9 +51,9 @@ void frmMain::ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& sta
   date.month = SelectedNumber<std::int32_t>(cboMonth[Index]);
   date.day = SelectedNumber<std::int32_t>(cboDay[Index]);
   const std::u16string text = txbYearCE[Index].TrimText();
-  status = YearStatus(text);
-  date.valid = status == 0 ? 1 : 0;
-  if (status == 0) date.year = DecimalValue(text);
+  status = StatusOfYear(text);
+  date.valid = status == YearAccepted ? 1 : 0;
+  if (status == YearAccepted) date.year = DecimalValue(text);
 }
 
 void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
@@ -62,11 +63,11 @@ void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
   date.MetType.assign(1, static_cast<char16_t>(u'A' + cboMType.ListIndex()));
   const std::u16string text = txbMetNum.TrimText();
   if (text.empty()) {
-    status = -1;
+    status = MetNumEmpty;
     return;
   }
   if (!StrProc::IsAllDigits(text)) {
-    status = -2;
+    status = MetNumNotDigits;
     return;
   }
   date.MetNum = FieldNumber(text);
