@@ -13,7 +13,27 @@
 //  4. A command button that turns disabled while it holds the focus first hands the focus to the
 //     button that the form has named for this, its FocusHeir.
 //
-// Texts are UTF-16. Lengths of the stored layout are in twips, 1/1440 of an inch.
+// Texts are UTF-16. Lengths of the stored layout are in twips, 1/1440 of an inch. Colours are
+// 0x00BBGGRR, keys have the numbers of Win32 (Enter is 13), and so have the two icons.
+//
+// For whoever writes the next platform:
+//
+//  - A program has one Desktop, which owns the window and the timer. The form owns the controls
+//    that NewControl gives it; they end before the Desktop does. The rows of the layout live longer
+//    than all of them, so a control can keep a reference to its own. The option buttons of the
+//    window share one OptionGroup, which the Desktop keeps for them.
+//  - The texts in a row are literals: they end with a zero. Any other view that comes in need not,
+//    and does not live longer than the call.
+//  - In a list a choice counts when it is made: going over the items of an open list is none, and
+//    Escape restores what was selected before it was opened. While the line holds typed text
+//    nothing is selected: ListIndex is -1, until an item is chosen. What the line shows and what
+//    ListIndex says never differ otherwise.
+//  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
+//    control that has it when the window comes back.
+//  - All events come on the thread that made the Desktop, one after the other; a message box lets
+//    the timer tick on.
+//  - The main loop is the platform's own, and so is the local date: the program's entry point runs
+//    the one and hands the other to the form's calendar side.
 #pragma once
 
 #include <bitset>
@@ -27,7 +47,7 @@
 namespace Toolkit {
 
 using Event = std::function<void()>;
-using Color = std::int32_t;  // 0x00BBGGRR
+using Color = std::int32_t;
 
 struct Font {
   std::u16string_view face;
