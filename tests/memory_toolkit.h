@@ -2,12 +2,17 @@
 #pragma once
 
 #include <map>
-#include <memory>
+#include <optional>
 
-#include "scenarios.h"
+#include "control_names.h"
 #include "toolkit.h"
 
 namespace Memory {
+
+struct Box {
+  Text text, title;
+  Toolkit::Icon icon;
+};
 
 struct Screen {
   bool is_on = false;                       // the one window has been brought up

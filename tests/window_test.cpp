@@ -4,7 +4,13 @@
 
 namespace {
 
-struct Form : testing::Test, User {
+// The fields of each row, from the left.
+const std::vector<View> Fields[] = {
+    {u"cboMonth0", u"cboDay0", u"txbYearCE0"},
+    {u"cboMonth1", u"cboDay1", u"txbYearCE1"},
+    {u"cboGMet", u"cboMType", u"txbMetNum", u"cboYearInMet", u"cboMonth2", u"cboDay2"}};
+
+struct Form : testing::Test {
   Memory::Desktop desktop;
   frmMain form{desktop, {2, 1}, u"The notice"};
 
@@ -21,22 +27,30 @@ struct Form : testing::Test, User {
     return dynamic_cast<T&>(*desktop.controls.at(Text(control)));
   }
 
-  Text Read(View control) const override {
+  // What a person sees.
+  Text Read(View control) const {
     if (control.starts_with(u"lbl")) return The<Memory::Label>(control).Caption();
     if (control.starts_with(u"txb")) return The<Memory::TextBox>(control).text;
     const auto& list = The<Memory::List>(control);
     return Text(list.Item(list.index));
   }
-  bool IsEnabled(View button) const override {
-    return The<Memory::CommandButton>(button).Enabled();
-  }
-  Text Focus() const override {
+  bool IsEnabled(View button) const { return The<Memory::CommandButton>(button).Enabled(); }
+  Text Focus() const {
     for (const auto& [name, control] : desktop.controls) {
       if (control == Memory::screen.focus) return name;
     }
     return u"";
   }
-  void Set(View field, View value) override {
+  // A row from the left with a blank behind each field, and then the weekday.
+  Text Row(int row) const {
+    Text text;
+    for (const View field : Fields[row]) text += Read(field) + u" ";
+    return text + form.lblDayOfWeek[row].Caption();
+  }
+  Text Rows() const { return Row(0) + u" | " + Row(1) + u" | " + Row(2); }
+
+  // What a person does. A list is set to an item, or to nothing by typing into it.
+  void Set(View field, View value) {
     if (field.starts_with(u"txb")) {
       The<Memory::TextBox>(field).text = value;
       return;
@@ -46,26 +60,124 @@ struct Form : testing::Test, User {
     while (list.index >= 0 && list.Item(list.index) != value) --list.index;
     if (list.index >= 0) list.NoteChosen();
   }
-  void Choose(View option) override { The<Memory::OptionButton>(option).NoteChosen(); }
-  void Push(View button) override {
+  void Enter(int row, View words) {
+    for (const View field : Fields[row]) {
+      const View word = words.substr(0, words.find(u' '));
+      words.remove_prefix(std::min(words.size(), word.size() + 1));
+      Set(field, word);
+    }
+  }
+  void Push(View button) {
     Memory::screen.focus = &The<Memory::CommandButton>(button);
     The<Memory::CommandButton>(button).NotePressed();
   }
-  Box CloseBox(View) override { return std::exchange(desktop.box, {}).value_or(Box{}); }
-  void SecondPasses() override { desktop.Tick(); }
-  void WaitUntil(const std::function<bool()>& holds) const override { holds(); }
+  void SecondPasses() { desktop.Tick(); }
+  // Today in all rows, and then this entry in the row of the calendar chosen.
+  void StartFrom(int calendar, View entry) {
+    BringUp();
+    Push(u"cmdTBF0");
+    form.optCalendar[calendar].Select();
+    Enter(calendar, entry);
+    SecondPasses();
+  }
 };
 
 }  // namespace
 
 TEST_F(Form, MovesToDays) {
-  BringUp();
-  MovesToDays();
+  const View May7 = u"May 7 2010 Friday | May 7 2010 Tuesday | GMet-2 B 12 LYC-15 LA-5 24 Tuesday";
+  const std::tuple<int, View, View, View, View> moves[] = {
+      // clang-format off
+      {Gregorian, u"May 7 2010", u"cmdConvert", May7,
+       u"  2010-05-07 (Friday in 7-day week)\r\n"
+       u"= 2010-05-07 (Tuesday in 7/8-day week)\r\n"
+       u"= GMet-2 MB-12 LYC-15 LA-5 24 day (Tuesday) 24/30 half moon (3rd quarter)\r\n\r\n"},
+      {Solar, u"May 7 2010", u"cmdConvert", May7,
+       u"  2010-05-07 (Tuesday in 7/8-day week)\r\n"
+       u"= 2010-05-07 (Friday in 7-day week)\r\n"
+       u"= GMet-2 MB-12 LYC-15 LA-5 24 day (Tuesday) 24/30 half moon (3rd quarter)\r\n\r\n"},
+      {Lunar, u"GMet-2 B 12 LYC-15 LA-5 24", u"cmdConvert", May7,
+       u"  GMet-2 MB-12 LYC-15 LA-5 24 day (Tuesday) 24/30 half moon (3rd quarter)\r\n"
+       u"= 2010-05-07 (Friday in 7-day week)\r\n"
+       u"= 2010-05-07 (Tuesday in 7/8-day week)\r\n\r\n"},
+      {Lunar, u"GMet-1 A 341 LYC-19 LA-13 30", u"cmdTBF2", u"December 20 1786 Wednesday | December 20 1786 Monday | GMet-2 A 1 LYB-1 LA-1 1 Monday", {}},
+      {Gregorian, u"December 31 -", u"cmdTBF2", u"January 1 1 Monday | January 1 1 Saturday | GMet-1 A 248 LYB-1 LA-1 21 Saturday", {}},
+      {Solar, u"December 22 -4693", u"cmdTBF2", u"December 23 -4693 Friday | December 23 -4693 Monday | GMet-1 A 1 LYB-1 LA-1 1 Monday", {}},
+      {Gregorian, u"December 18 8265", u"cmdTBF1", u"December 17 8265 Sunday | December 17 8265 Lunaday | GMet-2 A 341 LYC-19 LA-13 30 Lunaday", {}},
+      // clang-format on
+  };
+  for (const auto& [calendar, entry, button, rows, block] : moves) {
+    SCOPED_TRACE(testing::PrintToString(entry) + testing::PrintToString(button));
+    StartFrom(calendar, entry);
+    EXPECT_TRUE(IsEnabled(u"cmdTBF1"));
+    EXPECT_TRUE(IsEnabled(u"cmdTBF2"));
+    const Text pane = Read(u"txbOutput");
+    Push(button);
+    EXPECT_EQ(Rows(), rows);
+    EXPECT_EQ(Read(u"txbOutput"), pane + Text(block));
+    EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
+    EXPECT_EQ(Focus(), u"cmdConvert");
+  }
 }
 
+// All stays as it was, but that Convert blanks the lunar weekday. A lone x is typed into a list.
 TEST_F(Form, RefusesWithABox) {
-  BringUp();
-  RefusesWithABox();
+  const auto Warns = Toolkit::Icon::Exclamation, Tells = Toolkit::Icon::Information;
+  const View Convert = u"cmdConvert", Back = u"cmdTBF1", Forward = u"cmdTBF2";
+  const std::tuple<int, View, bool, View, View, View, Toolkit::Icon> refusals[] = {
+      // clang-format off
+      {Gregorian, u"May 7 ", false, Convert, u"Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Gregorian, u"May 7 1.5", false, Convert, u"Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Solar, u"May 7 --5", false, Convert, u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Gregorian, u"May 7 -10000", false, Convert, u"Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Gregorian, u"May 7 100000", false, Convert, u"Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Solar, u"May 7 9-", false, Convert, u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
+      {Gregorian, u"February 30 2010", false, Convert, u"The Gregorian date is invalid.", u"Invalid input", Tells},
+      {Solar, u"February 29 1900", false, Convert, u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
+      {Gregorian, u"May 7 99999", true, Convert, u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
+      {Gregorian, u"December 18 8265", true, Convert, u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
+      {Solar, u"December 22 -4693", true, Convert, u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
+      {Lunar, u"GMet-2 B  LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B x LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 400 LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 65548 LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 x 12 LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nMetonic cycle 12 is of type B.", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 12 x LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -5", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 12 LYC-15 LA-5 x", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -10", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 12 LYC-15 LB-6 30", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.", u"Invalid input", Warns},
+      {Lunar, u"x B 12 LYC-15 LA-5 24", false, Convert, u"Invalid input for Lunar Karvel-Sorand date.", u"Invalid input", Warns},
+      {Lunar, u"GMet-1 A 1 LYB-1 LA-1 1", true, Back, u"Date too early", u"Back one day", Tells},
+      {Gregorian, u"December 17 8265", true, Forward, u"Date too late", u"Forward one day", Tells},
+      {Solar, u"December 19 8265", true, Back, u"Date too late", u"Back one day", Tells},
+      {Gregorian, u"January 1 -9999", true, Forward, u"Date too early", u"Forward one day", Tells},
+      // clang-format on
+  };
+  for (const auto& [calendar, entry, can_step, button, text, title, icon] : refusals) {
+    SCOPED_TRACE(testing::PrintToString(entry));
+    StartFrom(calendar, entry);
+    EXPECT_EQ(IsEnabled(Back), can_step);
+    EXPECT_EQ(IsEnabled(Forward), can_step);
+    const Text rows = Rows(), lunar_weekday = Read(u"lblDayOfWeek2"), pane = Read(u"txbOutput");
+    Push(button);
+    ASSERT_TRUE(desktop.box.has_value());
+    EXPECT_EQ(desktop.box->text, text);
+    EXPECT_EQ(desktop.box->title, title);
+    EXPECT_EQ(desktop.box->icon, icon);
+    desktop.box.reset();
+    if (button == Convert) {
+      EXPECT_EQ(Read(u"lblDayOfWeek2"), u"");
+      form.lblDayOfWeek[2].SetCaption(lunar_weekday);
+    }
+    EXPECT_EQ(Rows(), rows);
+    EXPECT_EQ(Read(u"txbOutput"), pane);
+  }
+}
+
+TEST_F(Form, StepsFromNothingWhereThereIsNoDate) {
+  StartFrom(Gregorian, u"February 30 2010");
+  form.cmdTBF[Back].Click();  // as before the tick has disabled it
+  EXPECT_EQ(Row(Gregorian), u"February 30 2010 ");
+  EXPECT_FALSE(desktop.box.has_value());
 }
 
 TEST_F(Form, EveryEventHasItsHandler) {
@@ -87,39 +199,25 @@ TEST_F(Form, Loads) {
     const auto* const coloured = dynamic_cast<Toolkit::Coloured*>(control);
     EXPECT_TRUE(!coloured || coloured->BackColor() == 0xE8F0) << testing::PrintToString(name);
   }
-  const View Months =
-      u"January February March April May June July August September October November December ";
-  const View Days30 =
-      u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 ";
-  const struct {
-    View list;
-    Text items;
-    View selected;
-  } rows[] = {
-      {u"cboMonth0", Text(Months), u"January"},
-      {u"cboMonth1", Text(Months), u"January"},
-      {u"cboMonth2", u"LA-1 LB-2 LA-3 LB-4 LA-5 LB-6 LA-7 LB-8 LA-9 LB-10 LA-11 LA-12 LB-12 LA-13 ",
-       u"LA-1"},
-      {u"cboYearInMet",
-       u"LYA-1 LYB-1 LYA-2 LYC-3 LYC-4 LYB-5 LYA-6 LYC-7 LYA-8 LYB-9 LYA-10 LYC-11 LYC-12 LYB-13 "
-       u"LYA-14 LYC-15 LYA-16 LYA-17 LYA-18 LYA-19 LYC-19 ",
-       u"LYA-1"},
-      {u"cboDay0", Text(Days30) + u"31 ", u"1"},
-      {u"cboDay1", Text(Days30) + u"31 ", u"1"},
-      {u"cboDay2", Text(Days30), u"1"},
-      {u"cboMType", u"A B C ", u"A"},
-      {u"cboGMet", u"GMet-1 GMet-2 ", u"GMet-2"},
+  const std::tuple<View, View> rows[] = {
+      // clang-format off
+      {u"cboMonth1", u"January February March April May June July August September October November December "},
+      {u"cboMonth2", u"LA-1 LB-2 LA-3 LB-4 LA-5 LB-6 LA-7 LB-8 LA-9 LB-10 LA-11 LA-12 LB-12 LA-13 "},
+      {u"cboYearInMet", u"LYA-1 LYB-1 LYA-2 LYC-3 LYC-4 LYB-5 LYA-6 LYC-7 LYA-8 LYB-9 LYA-10 LYC-11 LYC-12 LYB-13 LYA-14 LYC-15 LYA-16 LYA-17 LYA-18 LYA-19 LYC-19 "},
+      {u"cboDay1", u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 31 "},
+      {u"cboDay2", u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 "},
+      {u"cboMType", u"A B C "},
+      {u"cboGMet", u"GMet-1 GMet-2 "},
+      // clang-format on
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(testing::PrintToString(row.list));
-    const auto& list = The<Memory::List>(row.list);
-    Text items;
-    for (int index = 0; index < list.ListCount(); ++index) items += Text(list.Item(index)) + u" ";
-    EXPECT_EQ(items, row.items);
-    EXPECT_EQ(Read(row.list), row.selected);
+  for (const auto& [name, items] : rows) {
+    const auto& list = The<Memory::List>(name);
+    Text seen;
+    for (int index = 0; index < list.ListCount(); ++index) seen += Text(list.Item(index)) + u" ";
+    EXPECT_EQ(seen, items) << testing::PrintToString(name);
   }
-  EXPECT_EQ(FieldsOf(0) + FieldsOf(1), u"January 1  January 1  ");
-  EXPECT_EQ(Read(u"lblDayOfWeek0"), u"Monday");  // as stored: loading blanks the lunar one alone
+  // The years and the pane are empty, the rest is the first item or as stored.
+  EXPECT_EQ(Rows(), u"January 1  Monday | January 1  Lunaday | GMet-2 A 301 LYA-1 LA-1 1 ");
   EXPECT_EQ(Read(u"txbOutput"), u"");
   EXPECT_EQ(Focus(), u"");
 }
@@ -129,71 +227,48 @@ TEST_F(Form, OpensOnTodayAndComesBackToIt) {
       u"January 31 2026 Saturday | January 31 2026 Saturday | GMet-2 A 13 LYC-12 LB-2 13 Saturday";
   BringUp();
   EXPECT_EQ(Rows(), Today);
-  EXPECT_TRUE(Read(u"txbOutput").starts_with(u"  2026-01-31 (Saturday in 7-day week)"));
   const auto& pane = The<Memory::TextBox>(u"txbOutput");
+  EXPECT_TRUE(pane.text.starts_with(u"  2026-01-31 (Saturday in 7-day week)"));
   EXPECT_EQ(pane.selection.start, pane.TextLength());
-  Enter(2, u"? ? bad ? LB-4 2");
+  Enter(2, u"x x bad x LB-4 2");
   Push(u"cmdTBF0");
   EXPECT_EQ(Rows(), Today);
   DatePr2::SystemDate = [] { return Text(u"12-18-8265"); };
   Push(u"cmdTBF0");
-  const Box box = CloseBox(u"cmdTBF0");
-  EXPECT_EQ(box.text, u"Date too late");
-  EXPECT_EQ(box.title, u"Today's date");
-  EXPECT_EQ(Rows(), Today);
-}
-
-TEST_F(Form, ReadStatuses) {
-  BringUp();
-  const struct {
-    View text;
-    int status, year;  // 77 stands for a year that is not written
-  } years[] = {
-      {u"  2024 ", 0, 2024}, {u"0044", 0, 44}, {u"-44", 0, -44},    {u"-", 0, 0},
-      {u"99999", 0, 99999},  {u"   ", -1, 77}, {u"1.5", -2, 77},    {u"\t5", -2, 77},
-      {u"12-", -3, 77},      {u"--5", -3, 77}, {u"-10000", -4, 77}, {u"100000", -4, 77},
-  };
-  for (const auto& row : years) {
-    SCOPED_TRACE(testing::PrintToString(row.text));
-    Set(u"txbYearCE1", row.text);
-    EuroDate date{77, 0, 0, 0, 0, 7};
-    std::int16_t status = 9;
-    form.ReadEuroDate(1, date, status);
-    EXPECT_EQ(status, row.status);
-    EXPECT_EQ(date.year, row.year);
-    EXPECT_EQ(date.valid, row.status == 0 ? 1 : 0);
-  }
+  ASSERT_TRUE(desktop.box.has_value());
+  EXPECT_EQ(desktop.box->title, u"Today's date");
 }
 
 TEST_F(Form, EnterConvertsTheChosenCalendarAlone) {
   BringUp();
-  const struct {
-    View option, field;
-    int key;
-    bool converts;
-  } rows[] = {
-      {u"optCalendar0", u"txbYearCE0", 13, true},  {u"optCalendar0", u"txbYearCE1", 13, false},
-      {u"optCalendar0", u"txbMetNum", 13, false},  {u"optCalendar1", u"txbYearCE0", 13, false},
-      {u"optCalendar1", u"txbYearCE1", 13, true},  {u"optCalendar1", u"txbMetNum", 13, false},
-      {u"optCalendar2", u"txbYearCE1", 13, false}, {u"optCalendar2", u"txbMetNum", 13, true},
-      {u"optCalendar2", u"txbMetNum", 32, false},  {u"optCalendar2", u"txbOutput", 13, false},
+  Set(u"txbYearCE0", u"  2026 ");
+  Set(u"txbMetNum", u" 13 ");
+  const std::tuple<View, View, int, bool> rows[] = {
+      // clang-format off
+      {u"optCalendar0", u"txbYearCE0", 13, true},
+      {u"optCalendar0", u"txbYearCE1", 13, false},
+      {u"optCalendar0", u"txbMetNum", 13, false},
+      {u"optCalendar1", u"txbYearCE0", 13, false},
+      {u"optCalendar1", u"txbYearCE1", 13, true},
+      {u"optCalendar2", u"txbMetNum", 13, true},
+      {u"optCalendar2", u"txbMetNum", 32, false},
+      // clang-format on
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(testing::PrintToString(row.option) + " " + testing::PrintToString(row.field));
-    Choose(row.option);
+  for (const auto& [option, name, key, converts] : rows) {
+    SCOPED_TRACE(testing::PrintToString(option) + testing::PrintToString(name));
+    The<Memory::OptionButton>(option).NoteChosen();
+    auto& field = The<Memory::TextBox>(name);
     const Text pane = Read(u"txbOutput");
-    The<Memory::TextBox>(row.field).NoteKeyDown(static_cast<std::int16_t>(row.key), false);
+    field.NoteKeyDown(static_cast<std::int16_t>(key), false);
     EXPECT_EQ(Read(u"txbOutput"), pane);
-    The<Memory::TextBox>(row.field).NoteKeyUp(static_cast<std::int16_t>(row.key), 0);
-    EXPECT_EQ(Read(u"txbOutput") != pane, row.converts);
+    field.NoteKeyUp(static_cast<std::int16_t>(key), 0);
+    EXPECT_EQ(Read(u"txbOutput") != pane, converts);
   }
 }
 
 TEST_F(Form, AChoiceBlanksTheWeekdayOfItsRow) {
   BringUp();
-  const struct {
-    View list, item, blanked, focus;
-  } rows[] = {
+  const std::tuple<View, View, View, View> rows[] = {
       {u"cboMonth0", u"May", u"lblDayOfWeek0", u"cmdConvert"},
       {u"cboDay1", u"7", u"lblDayOfWeek1", u"cmdConvert"},
       {u"cboMonth2", u"LA-5", u"lblDayOfWeek2", u"cmdConvert"},
@@ -202,25 +277,24 @@ TEST_F(Form, AChoiceBlanksTheWeekdayOfItsRow) {
       {u"cboGMet", u"GMet-1", u"lblDayOfWeek2", u"cmdConvert"},
       {u"cboMType", u"B", u"", u""},
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(testing::PrintToString(row.list));
+  for (const auto& [list, item, blanked, focus] : rows) {
+    SCOPED_TRACE(testing::PrintToString(list));
     Push(u"cmdTBF0");
     Memory::screen.focus = nullptr;
-    Set(row.list, row.item);
+    Set(list, item);
     for (const View label : {u"lblDayOfWeek0", u"lblDayOfWeek1", u"lblDayOfWeek2"}) {
-      EXPECT_EQ(Read(label), label == row.blanked ? u"" : u"Saturday");
+      EXPECT_EQ(Read(label), label == blanked ? u"" : u"Saturday");
     }
-    EXPECT_EQ(Focus(), row.focus);
+    EXPECT_EQ(Focus(), focus);
   }
 }
 
 TEST_F(Form, SmallCommands) {
   BringUp();
   Memory::screen.focus = nullptr;
-  Choose(u"optCalendar1");
-  for (const View option : {u"optCalendar0", u"optCalendar1", u"optCalendar2"}) {
-    EXPECT_EQ(The<Memory::OptionButton>(option).FontBold(), option == u"optCalendar1");
-  }
+  The<Memory::OptionButton>(u"optCalendar1").NoteChosen();
+  EXPECT_FALSE(form.optCalendar[Gregorian].FontBold());
+  EXPECT_TRUE(form.optCalendar[Solar].FontBold());
   EXPECT_EQ(Focus(), u"cmdConvert");
 
   Push(u"cmdClear");
@@ -246,35 +320,26 @@ TEST_F(Form, SmallCommands) {
 
 TEST_F(Form, SameDay) {
   BringUp();
-  const struct {
-    View gregorian, solar, lunar;
-    int mode;
-    bool same;
-  } rows[] = {
+  const std::tuple<View, View, View, int, bool> rows[] = {
+      // clang-format off
       {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, true},
       {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", 0, false},
+      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 2", 1, true},
+      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 2", -1, false},
       {u"June 12 2010", u"June 13 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
       {u"June 13 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
-      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 2", -1, false},
-      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 2", 1, true},
-      // Adds up to that day, and does not exist.
-      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LB-6 30", -1, true},
-      {u"February 30 2010", u"February 30 2010", u"GMet-2 B  LYC-15 LB-6 30", -1, false},
       {u"June 12 ", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
-      {u"June 12 2010", u"June 12 x", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
+      {u"February 30 2010", u"February 30 2010", u"GMet-2 B  LYC-15 LA-7 1", -1, false},
+      {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LB-6 30", -1, true},  // adds up to it
+      // clang-format on
   };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(testing::PrintToString(row.gregorian) + " " + testing::PrintToString(row.lunar));
-    Enter(0, row.gregorian);
-    Enter(1, row.solar);
-    Enter(2, row.lunar);
-    EXPECT_EQ(form.CheckSameDay(static_cast<std::int16_t>(row.mode)), row.same);
-    EXPECT_EQ(Read(u"lblSameDay"), row.same ? u"The dates above denote the same day."
-                                            : u"The dates above do not denote the same day.");
+  for (const auto& [gregorian, solar, lunar, mode, same] : rows) {
+    SCOPED_TRACE(testing::PrintToString(gregorian) + testing::PrintToString(lunar));
+    Enter(Gregorian, gregorian);
+    Enter(Solar, solar);
+    Enter(Lunar, lunar);
+    EXPECT_EQ(form.CheckSameDay(static_cast<std::int16_t>(mode)), same);
+    EXPECT_EQ(Read(u"lblSameDay"), same ? u"The dates above denote the same day."
+                                        : u"The dates above do not denote the same day.");
   }
-  // There is nothing to step from before the tick has seen that.
-  Enter(0, u"February 30 2010");
-  Push(u"cmdTBF1");
-  EXPECT_EQ(FieldsOf(0), u"February 30 2010 ");
-  EXPECT_FALSE(desktop.box.has_value());
 }

@@ -5,7 +5,6 @@ namespace Win32 {
 namespace {
 
 constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
-constexpr UINT_PTR TimerId = 1;
 constexpr COLORREF Black = RGB(0, 0, 0);
 
 // Calls `use` for each control of the window that is one of ours.
