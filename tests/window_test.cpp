@@ -157,6 +157,7 @@ TEST_F(Form, RefusesWithABox) {
     StartFrom(calendar, entry);
     EXPECT_EQ(IsEnabled(Back), can_step);
     EXPECT_EQ(IsEnabled(Forward), can_step);
+    EXPECT_EQ(Read(u"lblSameDay"), u"The dates above do not denote the same day.");
     const Text rows = Rows(), lunar_weekday = Read(u"lblDayOfWeek2"), pane = Read(u"txbOutput");
     Push(button);
     ASSERT_TRUE(desktop.box.has_value());
@@ -241,22 +242,21 @@ TEST_F(Form, OpensOnTodayAndComesBackToIt) {
 
 TEST_F(Form, EnterConvertsTheChosenCalendarAlone) {
   BringUp();
-  Set(u"txbYearCE0", u"  2026 ");
-  Set(u"txbMetNum", u" 13 ");
-  const std::tuple<View, View, int, bool> rows[] = {
+  const std::tuple<View, View, View, int, bool> rows[] = {
       // clang-format off
-      {u"optCalendar0", u"txbYearCE0", 13, true},
-      {u"optCalendar0", u"txbYearCE1", 13, false},
-      {u"optCalendar0", u"txbMetNum", 13, false},
-      {u"optCalendar1", u"txbYearCE0", 13, false},
-      {u"optCalendar1", u"txbYearCE1", 13, true},
-      {u"optCalendar2", u"txbMetNum", 13, true},
-      {u"optCalendar2", u"txbMetNum", 32, false},
+      {u"optCalendar0", u"txbYearCE0", u"  2026 ", 13, true},
+      {u"optCalendar0", u"txbYearCE1", u"2026", 13, false},
+      {u"optCalendar0", u"txbMetNum", u"13", 13, false},
+      {u"optCalendar1", u"txbYearCE0", u"2026", 13, false},
+      {u"optCalendar1", u"txbYearCE1", u"2026", 13, true},
+      {u"optCalendar2", u"txbMetNum", u" 13 ", 13, true},
+      {u"optCalendar2", u"txbMetNum", u"13", 32, false},
       // clang-format on
   };
-  for (const auto& [option, name, key, converts] : rows) {
+  for (const auto& [option, name, text, key, converts] : rows) {
     SCOPED_TRACE(testing::PrintToString(option) + testing::PrintToString(name));
     The<Memory::OptionButton>(option).NoteChosen();
+    Set(name, text);
     auto& field = The<Memory::TextBox>(name);
     const Text pane = Read(u"txbOutput");
     field.NoteKeyDown(static_cast<std::int16_t>(key), false);
@@ -328,7 +328,7 @@ TEST_F(Form, SameDay) {
       {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 2", -1, false},
       {u"June 12 2010", u"June 13 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
       {u"June 13 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
-      {u"June 12 ", u"June 12 2010", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
+      {u"June 12 2010", u"June 12 ", u"GMet-2 B 12 LYC-15 LA-7 1", -1, false},
       {u"February 30 2010", u"February 30 2010", u"GMet-2 B  LYC-15 LA-7 1", -1, false},
       {u"June 12 2010", u"June 12 2010", u"GMet-2 B 12 LYC-15 LB-6 30", -1, true},  // adds up to it
       // clang-format on
