@@ -7,24 +7,26 @@ namespace Karvel_Sorand {
 namespace {
 
 std::int16_t FirstFailedCheck(LksDate& date) {
-  if (date.MetNum < 1 || date.MetNum > MetCycleCount) return -3;
+  if (date.MetNum < 1 || date.MetNum > MetCycleCount) return LksWrongMetNum;
   const auto cycle = static_cast<std::size_t>(date.MetNum);
-  if (date.MetType != std::u16string_view(MetCycleTypes).substr(cycle - 1, 1)) return -4;
+  if (date.MetType != std::u16string_view(MetCycleTypes).substr(cycle - 1, 1))
+    return LksWrongMetType;
 
-  if (date.YearInMet < 1 || date.YearInMet > YearsInMetCycle) return -5;
+  if (date.YearInMet < 1 || date.YearInMet > YearsInMetCycle) return LksWrongYear;
   const std::u16string_view pattern = YearTypesOf(date.MetType);
-  if (date.YearType != pattern.substr(static_cast<std::size_t>(date.YearInMet) - 1, 1)) return -5;
+  if (date.YearType != pattern.substr(static_cast<std::size_t>(date.YearInMet) - 1, 1))
+    return LksWrongYear;
 
   // "C" is one letter past the types that there are; the last check refuses it.
-  if (date.MonthType < u"A" || date.MonthType > u"C") return -7;
-  if (date.Month < 1 || date.Month > 13) return -8;
-  if (date.Day < 1 || date.Day > 30) return -10;
+  if (date.MonthType < u"A" || date.MonthType > u"C") return LksWrongMonthType;
+  if (date.Month < 1 || date.Month > 13) return LksWrongMonth;
+  if (date.Day < 1 || date.Day > 30) return LksWrongDay;
 
   // Lengths of months, their types and month 13 are not looked at one by one: a date that does not
   // exist adds up to a day that has another date.
   LksDate other{};
   JdnToLksFields(LksDateToJdn(date), other, true);
-  return SameLksDate(date, other) ? 0 : -6;
+  return SameLksDate(date, other) ? 0 : LksNoSuchDate;
 }
 
 }  // namespace

@@ -38,9 +38,9 @@ char16_t MonthTypeOf(std::int16_t month, char16_t year_type) {
 }  // namespace
 
 std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe) {
-  if (jdn < MinLksJdn) return -1;
-  if (jdn > MaxLksJdn) return -2;
-  if (!allowBeforeCe && jdn < CeStartJdn) return -3;
+  if (jdn < MinLksJdn) return LksTooEarly;
+  if (jdn > MaxLksJdn) return LksTooLate;
+  if (!allowBeforeCe && jdn < CeStartJdn) return LksBeforeCe;
 
   // From here on `d` counts the days since the first day of the unit that holds the day.
   std::int32_t d = jdn - Gmet2StartJdn;
@@ -51,7 +51,7 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   // ones add up to so little that it is this one or the next.
   std::int32_t cycle = d / LongestCycle + 1;
   while (cycle <= MetCycleCount && d >= MetCycleStart[static_cast<std::size_t>(cycle) + 1]) ++cycle;
-  if (cycle > MetCycleCount) return -4;
+  if (cycle > MetCycleCount) return LksNoCycle;
   const auto at = static_cast<std::size_t>(cycle);
   date.MetNum = static_cast<std::int16_t>(cycle);
   date.MetType.assign(1, MetCycleTypes[at - 1]);
@@ -62,18 +62,18 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   std::int32_t length = 0;
   for (; year <= pattern.size(); ++year) {
     length = YearDays(pattern[year - 1]);
-    if (length == 0) return -5;
+    if (length == 0) return LksNoYear;
     if (d < length) break;
     d -= length;
   }
-  if (year > pattern.size()) return -5;
+  if (year > pattern.size()) return LksNoYear;
   const char16_t year_type = pattern[year - 1];
   date.YearInMet = static_cast<std::int16_t>(year);
   date.YearType.assign(1, year_type);
 
   SplitDayOfYear(d, year_type, date);
-  if (date.Month < 1 || date.Month > 13) return -6;
-  if (date.Day < 1 || date.Day > 30) return -7;
+  if (date.Month < 1 || date.Month > 13) return LksNoMonth;
+  if (date.Day < 1 || date.Day > 30) return LksNoDay;
   date.MonthType.assign(1, MonthTypeOf(date.Month, year_type));
   return 0;
 }

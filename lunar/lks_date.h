@@ -34,16 +34,18 @@ struct LksDate {
 inline constexpr std::int16_t LksTrue = -1;
 inline constexpr std::int16_t LksFalse = 0;
 
-// Fills `date` with the date of day `jdn`. Status:
-//    0  success: all fields set, Valid true
-//   -1  `jdn` below MinLksJdn
-//   -2  `jdn` above MaxLksJdn
-//   -3  `allowBeforeCe` is false and `jdn` lies below CeStartJdn
-//   -4  no Metonic cycle holds the day
-//   -5  a letter of the year pattern is none of A, B, C
-//   -6  the month that came out lies outside 1 to 13
-//   -7  the day that came out lies outside 1 to 30
-// -4 to -7 guard the tables; no day of the calendar reaches them. On failure Jdn is set, Valid is
+// The statuses of JdnToLksDate beside 0, success. The last four guard the tables; no day of the
+// calendar reaches them.
+inline constexpr std::int16_t LksTooEarly = -1;  // `jdn` lies below MinLksJdn
+inline constexpr std::int16_t LksTooLate = -2;   // `jdn` lies above MaxLksJdn
+inline constexpr std::int16_t LksBeforeCe = -3;  // `jdn` lies below CeStartJdn, and that matters
+inline constexpr std::int16_t LksNoCycle = -4;   // no Metonic cycle holds the day
+inline constexpr std::int16_t LksNoYear = -5;    // the letter of the year is none of A, B, C
+inline constexpr std::int16_t LksNoMonth = -6;   // the month that came out is outside 1 to 13
+inline constexpr std::int16_t LksNoDay = -7;     // the day that came out is outside 1 to 30
+
+// Fills `date` with the date of day `jdn`. Without `allowBeforeCe` a day below CeStartJdn is
+// refused. On success, 0, all fields are set and Valid is true. On failure Jdn is set, Valid is
 // false, Label is empty, and a field that a later step would have set keeps what it held.
 std::int16_t JdnToLksDate(std::int32_t jdn, LksDate& date, bool allowBeforeCe);
 
@@ -52,16 +54,19 @@ std::int16_t JdnToLksDate(std::int32_t jdn, LksDate& date, bool allowBeforeCe);
 // they may name a day that does not exist. Any GMet but 2 counts as 1.
 std::int32_t LksDateToJdn(LksDate& date);
 
-// Whether a date entered field by field exists. Sets Valid; from the last check on, also Jdn and
-// Label. Status, by the first check that fails:
-//    0  the date exists
-//   -3  MetNum is outside 1 to MetCycleCount
-//   -4  MetType is not the type of that cycle
-//   -5  YearType is not the type of that year, or YearInMet is outside 1 to 19
-//   -7  MonthType lies before "A" or after "C"
-//   -8  Month is outside 1 to 13
-//  -10  Day is outside 1 to 30
-//   -6  the date does not exist: the day that it adds up to has another date
+// The statuses of CheckLksDate beside 0, in the order of its checks.
+inline constexpr std::int16_t LksWrongMetNum = -3;     // MetNum is outside 1 to MetCycleCount
+inline constexpr std::int16_t LksWrongMetType = -4;    // MetType is not the type of that cycle
+inline constexpr std::int16_t LksWrongYear = -5;       // YearType is not the type of that year, or
+                                                       // YearInMet is outside 1 to 19
+inline constexpr std::int16_t LksWrongMonthType = -7;  // MonthType lies before "A" or after "C"
+inline constexpr std::int16_t LksWrongMonth = -8;      // Month is outside 1 to 13
+inline constexpr std::int16_t LksWrongDay = -10;       // Day is outside 1 to 30
+inline constexpr std::int16_t LksNoSuchDate = -6;      // the day that the date adds up to has
+                                                       // another date
+
+// Whether a date entered field by field exists: 0, or the status of the first check that fails.
+// Sets Valid; from the last check on, also Jdn and Label.
 std::int16_t CheckLksDate(LksDate& date);
 
 // Whether the eight fields from GMet to Day are equal. Jdn, Valid and Label do not count.
