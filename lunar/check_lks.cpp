@@ -1,6 +1,4 @@
-#include <tuple>
-
-#include "lks_fields.h"
+#include "lks_steps.h"
 
 namespace Karvel_Sorand {
 
@@ -13,7 +11,7 @@ std::int16_t FirstFailedCheck(LksDate& date) {
     return LksWrongMetType;
 
   if (date.YearInMet < 1 || date.YearInMet > YearsInMetCycle) return LksWrongYear;
-  const std::u16string_view pattern = YearTypesOf(date.MetType);
+  const std::u16string_view pattern = YearsOf(date.MetType).types;
   if (date.YearType != pattern.substr(static_cast<std::size_t>(date.YearInMet) - 1, 1))
     return LksWrongYear;
 
@@ -38,11 +36,9 @@ std::int16_t CheckLksDate(LksDate& date) {
 }
 
 bool SameLksDate(const LksDate& a, const LksDate& b) {
-  const auto fields = [](const LksDate& date) {
-    return std::tie(date.GMet, date.MetType, date.MetNum, date.YearType, date.YearInMet,
-                    date.MonthType, date.Month, date.Day);
-  };
-  return fields(a) == fields(b);
+  return a.GMet == b.GMet && a.MetType == b.MetType && a.MetNum == b.MetNum &&
+         a.YearType == b.YearType && a.YearInMet == b.YearInMet && a.MonthType == b.MonthType &&
+         a.Month == b.Month && a.Day == b.Day;
 }
 
 }  // namespace Karvel_Sorand

@@ -1,38 +1,19 @@
-#include "lks_fields.h"
-#include "lks_label.h"
+#include <algorithm>
+
+#include "lks_steps.h"
 
 namespace Karvel_Sorand {
 
 namespace {
 
-constexpr std::int32_t LongestCycle = 6940;   // days of a Metonic cycle of type A
-constexpr std::int32_t PairDays = 59;         // a month of 30 days and the one of 29 behind it
-constexpr std::int32_t DaysBefore12th = 325;  // months 1 to 11 of any year
-constexpr std::int32_t DaysBefore13th = 354;  // months 1 to 12 of a year of type C
+constexpr std::int32_t LongestCycle = 6940;  // days of a Metonic cycle of type A
 
-// Sets the month and the day from the zero-based day `d` of a year of type `year_type`.
-void SplitDayOfYear(std::int32_t d, char16_t year_type, LksDate& date) {
-  std::int32_t month = 0;
-  std::int32_t day_from_0 = 0;
-  if (d >= DaysBefore13th && year_type == u'C') {
-    month = 13;
-    day_from_0 = d - DaysBefore13th;
-  } else if (d >= DaysBefore12th) {
-    // Taken out of the pairs, since a year of type B has a 30th day here.
-    month = 12;
-    day_from_0 = d - DaysBefore12th;
-  } else {
-    const std::int32_t rest = d % PairDays;
-    month = 2 * (d / PairDays) + (rest < 30 ? 1 : 2);
-    day_from_0 = rest < 30 ? rest : rest - 30;
-  }
-  date.Month = static_cast<std::int16_t>(month);
-  date.Day = static_cast<std::int16_t>(day_from_0 + 1);
-}
-
-char16_t MonthTypeOf(std::int16_t month, char16_t year_type) {
-  if (month == 12) return year_type == u'B' ? u'A' : u'B';
-  return month % 2 == 1 ? u'A' : u'B';
+// The last unit that begins on day `d` or before it, where unit u begins on day start[u]. Walks up
+// from `guess`, which must not lie behind it.
+std::size_t UnitOfDay(std::int32_t d, const std::vector<std::int32_t>& start, std::int32_t guess) {
+  auto unit = static_cast<std::size_t>(guess);
+  while (unit + 1 < start.size() && d >= start[unit + 1]) ++unit;
+  return unit;
 }
 
 }  // namespace
@@ -43,38 +24,38 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   if (!allowBeforeCe && jdn < CeStartJdn) return LksBeforeCe;
 
   // From here on `d` counts the days since the first day of the unit that holds the day.
-  std::int32_t d = jdn - Gmet2StartJdn;
-  date.GMet = d < 0 ? 1 : 2;
-  if (d < 0) d += GreatCycleDays;
+  std::int32_t d = jdn - Gmet2StartJdn + GreatCycleDays;
+  date.GMet = static_cast<std::int16_t>(d / GreatCycleDays + 1);
+  d %= GreatCycleDays;
 
-  // No cycle is longer than LongestCycle, so none before this one can hold the day; the shorter
-  // ones add up to so little that it is this one or the next.
-  std::int32_t cycle = d / LongestCycle + 1;
-  while (cycle <= MetCycleCount && d >= MetCycleStart[static_cast<std::size_t>(cycle) + 1]) ++cycle;
-  if (cycle > MetCycleCount) return LksNoCycle;
-  const auto at = static_cast<std::size_t>(cycle);
+  // No cycle is longer than LongestCycle, so the guess is never too high. The shorter ones lack 136
+  // days in all, so it is one too low at most.
+  const std::size_t cycle = UnitOfDay(d, MetCycleStart, d / LongestCycle + 1);
+  if (cycle > MetCycleTypes.size()) return LksNoCycle;
   date.MetNum = static_cast<std::int16_t>(cycle);
-  date.MetType.assign(1, MetCycleTypes[at - 1]);
-  d -= MetCycleStart[at];
+  date.MetType = MetCycleTypes[cycle - 1];
+  d -= MetCycleStart[cycle];
 
-  const std::u16string& pattern = YearTypesOf(date.MetType);
-  std::size_t year = 1;
-  std::int32_t length = 0;
-  for (; year <= pattern.size(); ++year) {
-    length = YearDays(pattern[year - 1]);
-    if (length == 0) return LksNoYear;
-    if (d < length) break;
-    d -= length;
-  }
-  if (year > pattern.size()) return LksNoYear;
-  const char16_t year_type = pattern[year - 1];
+  // No year begins more than 18 days later than if all 19 had the same length, so this guess is
+  // never too high, either, and one too low at most.
+  const CycleYears& years = YearsOf(date.MetType);
+  const std::size_t year = UnitOfDay(d, years.start, (d - 18) * YearsInMetCycle / LongestCycle + 1);
+  const char16_t year_type = years.types[year - 1];  // 0 behind the 19th
+  if (year_type < u'A' || year_type > u'C') return LksNoYear;
   date.YearInMet = static_cast<std::int16_t>(year);
-  date.YearType.assign(1, year_type);
+  date.YearType = year_type;
+  d -= years.start[year];
 
-  SplitDayOfYear(d, year_type, date);
+  // The last month m with DaysBeforeMonth(m) <= d, which is 59 * (m - 1) <= 2 * d. The 30th day of
+  // month 12 in a year of type B has no month 13 to fall into.
+  const std::int32_t month = std::min(2 * d / 59 + 1, year_type == u'C' ? 13 : 12);
+  date.Month = static_cast<std::int16_t>(month);
+  date.Day = static_cast<std::int16_t>(d - DaysBeforeMonth(month) + 1);
   if (date.Month < 1 || date.Month > 13) return LksNoMonth;
   if (date.Day < 1 || date.Day > 30) return LksNoDay;
-  date.MonthType.assign(1, MonthTypeOf(date.Month, year_type));
+  // Odd months have 30 days, and so has the 12th of a year of type B, which ends like a 13th.
+  const std::int32_t turn = month == 12 && year_type == u'B' ? 13 : month;
+  date.MonthType = turn % 2 == 1 ? u'A' : u'B';
   return 0;
 }
 
@@ -82,11 +63,8 @@ std::int16_t JdnToLksDate(std::int32_t jdn, LksDate& date, bool allowBeforeCe) {
   date.Jdn = jdn;
   const std::int16_t status = JdnToLksFields(jdn, date, allowBeforeCe);
   date.Valid = status == 0 ? LksTrue : LksFalse;
-  if (status == 0) {
-    WriteLksDateLabel(date, date.Label);
-  } else {
-    date.Label.clear();
-  }
+  date.Label.clear();
+  if (status == 0) WriteLksDateLabel(date, date.Label);
   return status;
 }
 

@@ -1,4 +1,4 @@
-#include "lks_label.h"
+#include "lks_steps.h"
 
 #include "decimal.h"
 

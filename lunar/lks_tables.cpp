@@ -9,7 +9,8 @@ namespace {
 struct {
   std::int16_t met_cycle_count;
   std::int32_t gmet2_start_jdn, great_cycle_days, min_lks_jdn, max_lks_jdn, ce_start_jdn;
-  std::u16string met_cycle_types, year_types_of_a, year_types_of_b, year_types_of_c;
+  std::u16string met_cycle_types;
+  CycleYears years_of_a, years_of_b, years_of_c;
   std::vector<std::int32_t> met_cycle_start;
 } values;
 
@@ -30,6 +31,12 @@ std::int16_t CycleDays(const std::u16string& year_types) {
   return static_cast<std::int16_t>(days);
 }
 
+CycleYears BuildYears(const std::u16string& types) {
+  CycleYears years{types, CycleDays(types), {0, 0}};  // the unused entry 0, and year 1
+  for (const char16_t letter : types) years.start.push_back(years.start.back() + YearDays(letter));
+  return years;
+}
+
 }  // namespace
 
 const std::int16_t& MetCycleCount = values.met_cycle_count;
@@ -39,9 +46,9 @@ const std::int32_t& MinLksJdn = values.min_lks_jdn;
 const std::int32_t& MaxLksJdn = values.max_lks_jdn;
 const std::int32_t& CeStartJdn = values.ce_start_jdn;
 const std::u16string& MetCycleTypes = values.met_cycle_types;
-const std::u16string& YearTypesOfA = values.year_types_of_a;
-const std::u16string& YearTypesOfB = values.year_types_of_b;
-const std::u16string& YearTypesOfC = values.year_types_of_c;
+const std::u16string& YearTypesOfA = values.years_of_a.types;
+const std::u16string& YearTypesOfB = values.years_of_b.types;
+const std::u16string& YearTypesOfC = values.years_of_c.types;
 const std::vector<std::int32_t>& MetCycleStart = values.met_cycle_start;
 
 void InitLksTables() {
@@ -52,36 +59,26 @@ void InitLksTables() {
 
   values.met_cycle_types = BuildMetCycleTypes();
   values.met_cycle_count = static_cast<std::int16_t>(values.met_cycle_types.size());
-  values.year_types_of_a = u"BACCBACABACCBACAAAC";
-  values.year_types_of_b = u"AACCBACABACCBACAAAC";  // year 1 is a day shorter than in A
-  values.year_types_of_c = u"BACCBACABACCBACAAAA";  // year 19 is a month shorter than in A
+  values.years_of_a = BuildYears(u"BACCBACABACCBACAAAC");
+  values.years_of_b = BuildYears(u"AACCBACABACCBACAAAC");  // year 1 is a day shorter than in A
+  values.years_of_c = BuildYears(u"BACCBACABACCBACAAAA");  // year 19 is a month shorter than in A
 
-  const std::int16_t days_of_a = CycleDays(values.year_types_of_a);
-  const std::int16_t days_of_b = CycleDays(values.year_types_of_b);
-  const std::int16_t days_of_c = CycleDays(values.year_types_of_c);
-  values.met_cycle_start.assign({0, 0});  // the unused entry 0, and cycle 1
-  for (const char16_t type : values.met_cycle_types) {
-    const std::int16_t days = type == u'A' ? days_of_a : type == u'B' ? days_of_b : days_of_c;
-    values.met_cycle_start.push_back(values.met_cycle_start.back() + days);
-  }
-  values.great_cycle_days = values.met_cycle_start.back();
+  std::vector<std::int32_t>& start = values.met_cycle_start;
+  start.assign({0, 0});  // the unused entry 0, and cycle 1
+  for (const char16_t type : MetCycleTypes)
+    start.push_back(start.back() + YearsOf({&type, 1}).days);
+  values.great_cycle_days = start.back();
 }
 
-const std::u16string& YearTypesOf(std::u16string_view met_type) {
-  return met_type == u"A" ? YearTypesOfA : met_type == u"B" ? YearTypesOfB : YearTypesOfC;
+const CycleYears& YearsOf(std::u16string_view met_type) {
+  const char16_t letter = met_type.size() == 1 ? met_type.front() : u'C';
+  return letter == u'A'   ? values.years_of_a
+         : letter == u'B' ? values.years_of_b
+                          : values.years_of_c;
 }
 
 std::int32_t YearDays(char16_t letter) {
-  switch (letter) {
-    case u'A':
-      return 354;
-    case u'B':
-      return 355;
-    case u'C':
-      return 384;
-    default:
-      return 0;
-  }
+  return letter == u'A' ? 354 : letter == u'B' ? 355 : 384;
 }
 
 }  // namespace Karvel_Sorand

@@ -36,13 +36,20 @@ extern const std::u16string& YearTypesOfC;   // the same for type C
 // day of its Metonic cycle i. Entry 342 stands for no cycle; it is the length of the great cycle.
 extern const std::vector<std::int32_t>& MetCycleStart;
 
-// The year pattern of a cycle of type `met_type`: YearTypesOfA for "A", YearTypesOfB for "B",
-// YearTypesOfC for anything else.
-const std::u16string& YearTypesOf(std::u16string_view met_type);
+// The years of a Metonic cycle, by the cycle's type.
+struct CycleYears {
+  std::u16string types;             // letter y is the type of year y
+  std::int16_t days;                // the length of the cycle
+  std::vector<std::int32_t> start;  // as MetCycleStart, for year 1 to 19 and the end of the cycle
+};
 
-// The days of a year of type `letter`: 354 for A, 355 for B, 384 for C, 0 for any other letter.
+// The years of a cycle of type `met_type`: "A", "B", and "C" for anything else.
+const CycleYears& YearsOf(std::u16string_view met_type);
+
+// The days of a year of type `letter`: 354 for A, 355 for B, 384 for any other letter.
 std::int32_t YearDays(char16_t letter);
 
+inline constexpr std::int16_t GreatCycleCount = 2;
 inline constexpr std::int16_t YearsInMetCycle = 19;
 
 }  // namespace Karvel_Sorand

@@ -1,24 +1,18 @@
-#include "lks_label.h"
+#include "lks_steps.h"
 
 namespace Karvel_Sorand {
 
 std::int32_t LksDateToJdn(LksDate& date) {
-  std::int32_t days = MetCycleStart[static_cast<std::size_t>(date.MetNum)];
+  const auto cycle = static_cast<std::size_t>(date.MetNum);
+  const auto year = static_cast<std::size_t>(date.YearInMet);
+  std::int32_t days = MetCycleStart[cycle] + YearsOf(date.MetType).start[year];
+  days += DaysBeforeMonth(date.Month) + date.Day - 1;
+  // The 30th day of month 12 in a year of type B counts only from month 13 on, which no such year
+  // has. The record's own YearType decides; CheckLksDate has made sure that it is the pattern's.
+  if (date.Month == 13 && date.YearType == u"B") ++days;
 
-  const std::u16string& pattern = YearTypesOf(date.MetType);
-  for (std::int16_t year = 1; year < date.YearInMet; ++year) {
-    days += YearDays(pattern[static_cast<std::size_t>(year) - 1]);
-  }
-
-  // The record's own YearType decides on the length of month 12, not the pattern; CheckLksDate has
-  // made sure that they agree.
-  for (std::int16_t month = 1; month < date.Month; ++month) {
-    const bool long_month = month == 12 ? date.YearType == u"B" : month % 2 == 1;
-    days += long_month ? 30 : 29;
-  }
-
-  date.Jdn = Gmet2StartJdn + days + date.Day - 1;
-  if (date.GMet != 2) date.Jdn -= GreatCycleDays;
+  const int great_cycle = date.GMet >= 1 && date.GMet <= GreatCycleCount ? date.GMet : 1;
+  date.Jdn = Gmet2StartJdn + (great_cycle - 2) * GreatCycleDays + days;
   WriteLksDateLabel(date, date.Label);
   date.Valid = LksTrue;
   return date.Jdn;

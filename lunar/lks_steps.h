@@ -1,0 +1,21 @@
+// The steps of the conversions that more than one of them takes.
+#pragma once
+
+#include "lks_date.h"
+
+namespace Karvel_Sorand {
+
+// The days before month `month` in a year of any type. Months of 30 and 29 days take turns, so each
+// month counts half of 59 days; a month of 30 that is left alone rounds up.
+constexpr std::int32_t DaysBeforeMonth(std::int32_t month) {
+  return (59 * (month - 1) + 1) / 2;
+}
+
+// Sets the fields GMet to Day from `jdn`; statuses and arguments as for JdnToLksDate. No label is
+// written, so nothing is allocated.
+std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe);
+
+// Makes `label` the label of `date`. `label` may be the date's own Label, which is not read.
+void WriteLksDateLabel(const LksDate& date, std::u16string& label);
+
+}  // namespace Karvel_Sorand
