@@ -7,15 +7,9 @@
 namespace StrProc {
 
 std::u16string Decimal(std::int32_t number) {
-  std::u16string text;
-  AppendDecimal(text, number);
-  return text;
-}
-
-void AppendDecimal(std::u16string& text, std::int32_t number) {
   char digits[12];  // the longest is "-2147483648"
   const auto [end, error] = std::to_chars(std::begin(digits), std::end(digits), number);
-  text.append(std::begin(digits), end);
+  return std::u16string(std::begin(digits), end);
 }
 
 std::int32_t DecimalValue(std::u16string_view text) {

@@ -11,9 +11,6 @@ namespace StrProc {
 // `number` as text.
 std::u16string Decimal(std::int32_t number);
 
-// The same, written at the end of `text`; allocates only if `text` has no room left.
-void AppendDecimal(std::u16string& text, std::int32_t number);
-
 // The number that `text` begins with: an optional "-" and the digits behind it, up to the first
 // other character. 0 if there is no digit. A number outside 32 bits gives the nearest limit.
 std::int32_t DecimalValue(std::u16string_view text);
