@@ -1,37 +1,94 @@
-// How long the calendars take for a day.
+// How long the calendars take for a day drawn at random from the whole lunar calendar, and how many
+// times as long that is as the standard library takes for a Gregorian date there and back.
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <random>
+
 #include "euro_date.h"
-#include "lks_date.h"
+#include "lks_steps.h"
 
 using namespace Karvel_Sorand;
 
-static void JdnToLks(benchmark::State& state) {
-  InitLksTables();
-  LksDate date{};
-  std::int32_t jdn = MinLksJdn;
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(JdnToLksDate(jdn, date, true));
-    jdn = jdn < MaxLksJdn - 997 ? jdn + 997 : MinLksJdn;
+namespace {
+
+constexpr std::int32_t UnixEpochJdn = 2440588;
+constexpr const char* Peer = "std::chrono, there and back";
+
+// Behind the usual table: the best time of each benchmark, and how many times the peer's that is.
+class RatioReporter : public benchmark::ConsoleReporter {
+ public:
+  void ReportRuns(const std::vector<Run>& runs) override {
+    ConsoleReporter::ReportRuns(runs);
+    for (const Run& run : runs) {
+      if (run.run_type != Run::RT_Iteration) continue;
+      const double time = run.GetAdjustedCPUTime();
+      const auto [entry, is_first] = best.emplace(run.run_name.function_name, time);
+      entry->second = std::min(entry->second, time);
+    }
   }
-}
-BENCHMARK(JdnToLks);
 
-static void CheckLks(benchmark::State& state) {
+  void Finalize() override {
+    const double peer = best[Peer];
+    for (const auto& [name, time] : best) {
+      std::printf("%-32s %6.1f ns %6.1f times\n", name.c_str(), time, time / peer);
+    }
+  }
+
+ private:
+  std::map<std::string, double> best;  // nanoseconds by name
+};
+
+template <typename Days, typename Step>
+void Register(const char* name, Days& days, Step step) {
+  benchmark::RegisterBenchmark(name, [&days, step](benchmark::State& state) {
+    while (state.KeepRunningBatch(static_cast<std::int64_t>(days.size()))) {
+      for (auto& day : days) benchmark::DoNotOptimize(step(day));
+    }
+  });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
   InitLksTables();
-  LksDate date{};
-  JdnToLksDate(static_cast<std::int32_t>(state.range(0)), date, true);
-  for (auto _ : state) benchmark::DoNotOptimize(CheckLksDate(date));
-}
-BENCHMARK(CheckLks)->Arg(7333)->Arg(2461367)->Arg(4740140);
+  std::mt19937 random;
+  std::uniform_int_distribution<std::int32_t> any_day(MinLksJdn, MaxLksJdn);
+  std::vector<std::int32_t> jdns(20000);
+  std::vector<LksDate> dates(jdns.size());
+  for (std::size_t i = 0; i < jdns.size(); ++i) {
+    jdns[i] = any_day(random);
+    JdnToLksDate(jdns[i], dates[i], true);
+  }
 
-static void EuroThereAndBack(benchmark::State& state) {
-  EuroDate date{2026, 11, 22, GregorianCalendar, 0, 0};
-  for (auto _ : state) {
-    euro_date_to_jdn(&date);
-    ++date.jdn;
+  Register(Peer, jdns, [](std::int32_t jdn) {
+    const std::chrono::sys_days day{std::chrono::days(jdn - UnixEpochJdn)};
+    std::chrono::year_month_day date = day;
+    benchmark::DoNotOptimize(date);
+    return std::chrono::sys_days(date);
+  });
+  Register("Gregorian date, there and back", jdns, [](std::int32_t jdn) {
+    EuroDate date{0, 0, 0, GregorianCalendar, jdn, 0};
     jdn_to_euro_date(&date);
-  }
-  benchmark::DoNotOptimize(date);
+    euro_date_to_jdn(&date);
+    return date.jdn;
+  });
+  LksDate again{};
+  Register("JdnToLksFields", jdns,
+           [&](std::int32_t jdn) { return JdnToLksFields(jdn, again, true); });
+  Register("JdnToLksDate", jdns, [&](std::int32_t jdn) { return JdnToLksDate(jdn, again, true); });
+  Register("JdnToLksDate into a fresh record", jdns, [](std::int32_t jdn) {
+    LksDate fresh{};
+    return JdnToLksDate(jdn, fresh, true);
+  });
+  Register("LksDateToJdn", dates, [](LksDate& date) { return LksDateToJdn(date); });
+  Register("CheckLksDate", dates, [](LksDate& date) { return CheckLksDate(date); });
+
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  RatioReporter reporter;
+  benchmark::RunSpecifiedBenchmarks(&reporter);
 }
-BENCHMARK(EuroThereAndBack);
