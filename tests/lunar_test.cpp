@@ -1,99 +1,145 @@
-#include <gtest/gtest.h>
-
 #include "lks_date.h"
+#include "text_printer.h"
 
 using namespace Karvel_Sorand;
-
-namespace {
-
-constexpr std::u16string_view Weekdays[] = {u"Monday", u"Tuesday",  u"Wednesday", u"Thursday",
-                                            u"Friday", u"Saturday", u"Sunday",    u"Lunaday"};
-constexpr std::u16string_view Phases[] = {
-    u"dark moon", u"crescent moon (waxing)", u"half moon (1st quarter)", u"gibbous moon (waxing)",
-    u"full moon", u"gibbous moon (waning)",  u"half moon (3rd quarter)", u"crescent moon (waning)"};
-// The phase and the weekday of each day, one digit a day from day 1 on.
-constexpr char PhaseOfDay[] = "011111223333334555555566777777";
-constexpr char WeekdayInA[] = "012345601234567012345601234567";
-constexpr char WeekdayInB[] = "01234560123456701234501234567";
 
 struct Lunar : testing::Test {
   Lunar() { InitLksTables(); }
 };
 
-}  // namespace
-
 // Walks through the calendar by its lengths alone: all its units, one inside the other.
 TEST_F(Lunar, EveryDayThereAndBack) {
-  const std::u16string block16 = u"ABAABAABAAABAABA",
-                       block64 = block16 + block16 + block16 + block16;
-  const std::u16string cycles =
-      block64 + block64 + block64 + block16 + u"ABACA" + block64 + block64;
+  const std::u16string block16 = u"ABAABAABAAABAABA";
+  const std::u16string block64 = block16 + block16 + block16 + block16;
+  const std::u16string block21 = block16 + u"ABACA";
+  const std::u16string cycles = block64 + block64 + block64 + block21 + block64 + block64;
+  const std::u16string_view years[] = {u"BACCBACABACCBACAAAC", u"AACCBACABACCBACAAAC",
+                                       u"BACCBACABACCBACAAAA"};
   std::int32_t jdn = 7333;
-  LksDate date{}, there{};
+  LksDate date{};
+  LksDate there{};
   there.Label.reserve(100);
   const char16_t* const memory = there.Label.data();
   for (date.GMet = 1; date.GMet <= 2; ++date.GMet) {
-    for (date.MetNum = 1; date.MetNum <= 341; ++date.MetNum) {
-      date.MetType = cycles[std::size_t(date.MetNum) - 1];
-      for (date.YearInMet = 1; date.YearInMet <= 19; ++date.YearInMet) {
-        date.YearType = u"?BACCBACABACCBACAAAC"[date.YearInMet];
-        if (date.YearInMet == (date.MetType == u"B" ? 1 : date.MetType == u"C" ? 19 : 0))
-          date.YearType = u"A";
-        for (date.Month = 1; date.Month <= (date.YearType == u"C" ? 13 : 12); ++date.Month) {
-          const bool is_long = date.Month == 12 ? date.YearType == u"B" : date.Month % 2 == 1;
-          date.MonthType = is_long ? u"A" : u"B";
-          for (date.Day = 1; date.Day <= (is_long ? 30 : 29); ++date.Day, ++jdn) {
-            ASSERT_TRUE(JdnToLksDate(jdn, there, true) == 0 && SameLksDate(there, date)) << jdn;
-            ASSERT_TRUE(LksDateToJdn(date) == jdn && CheckLksDate(date) == 0) << jdn;
-            ASSERT_TRUE(there.Jdn == jdn && there.Valid == LksTrue) << jdn;
-            ASSERT_TRUE(date.Jdn == jdn && date.Valid == LksTrue) << jdn;
-            const auto at = static_cast<std::size_t>(date.Day) - 1;
-            const char weekday = (is_long ? WeekdayInA : WeekdayInB)[at];
-            ASSERT_EQ(LunarWeekdayName(date.Day, date.MonthType), Weekdays[weekday - '0']) << jdn;
-            ASSERT_EQ(MoonPhaseName(date.Day), Phases[PhaseOfDay[at] - '0']) << jdn;
+    date.MetNum = 0;
+    for (const char16_t met_type : cycles) {
+      ++date.MetNum;
+      date.MetType = met_type;
+      date.YearInMet = 0;
+      for (const char16_t year_type : years[met_type - u'A']) {
+        ++date.YearInMet;
+        date.YearType = year_type;
+        for (date.Month = 1; date.Month <= (year_type == u'C' ? 13 : 12); ++date.Month) {
+          const bool is_long = date.Month == 12 ? year_type == u'B' : date.Month % 2 == 1;
+          date.MonthType = is_long ? u'A' : u'B';
+          for (date.Day = 1; date.Day <= (is_long ? 30 : 29); ++date.Day) {
+            date.Valid = LksFalse;
+            ASSERT_EQ(JdnToLksDate(jdn, there, true), 0) << jdn;
+            ASSERT_EQ(LksDateToJdn(date), jdn) << testing::PrintToString(date.Label);
+            ASSERT_EQ(there.Label, date.Label) << jdn;
+            ASSERT_TRUE(SameLksDate(there, date)) << jdn;
+            ASSERT_TRUE(there.Jdn == jdn && date.Jdn == jdn) << jdn;
+            ASSERT_TRUE(there.Valid == LksTrue && date.Valid == LksTrue) << jdn;
+            ASSERT_EQ(CheckLksDate(date), 0) << jdn;
+            ++jdn;
           }
         }
       }
     }
   }
+  EXPECT_EQ(jdn, 4740141);
   EXPECT_EQ(there.Label.data(), memory);  // a record that is used again allocates nothing
-  EXPECT_EQ(JdnToLksDate(1721426, there, false), 0);
-  EXPECT_EQ(there.Label, u"GMet-1 MA-248 LYB-1 LA-1 21 day (Saturday) 21/30 gibbous moon (waning)");
-  EXPECT_EQ(JdnToLksDate(7332, there, true), -1);
-  EXPECT_TRUE(there.Valid == LksFalse && there.Label.empty() && there.Jdn == 7332);
-  EXPECT_EQ(JdnToLksDate(jdn, there, true), -2);
-  EXPECT_EQ(JdnToLksDate(1721425, there, false), -3);
 }
 
 TEST_F(Lunar, OfAllCombinationsExactlyTheDaysAreAccepted) {
-  const std::u16string types[] = {u"A", u"B", u"C"};
   std::int32_t accepted = 0;
   LksDate date{};
-  for (int of_types = 0; of_types < 27; ++of_types) {
-    date.MetType = types[of_types / 9], date.YearType = types[of_types / 3 % 3];
-    date.MonthType = types[of_types % 3];
-    for (date.GMet = 1; date.GMet <= 2; ++date.GMet)
-      for (date.MetNum = 0; date.MetNum <= 342; ++date.MetNum)
-        for (date.YearInMet = 1; date.YearInMet <= 19; ++date.YearInMet)
-          for (date.Month = 1; date.Month <= 13; ++date.Month)
-            for (date.Day = 1; date.Day <= 30; ++date.Day)
-              if (CheckLksDate(date) == 0) ++accepted;
-  }
+  for (date.MetType = u'A'; date.MetType <= u"C"; ++date.MetType.front())
+    for (date.YearType = u'A'; date.YearType <= u"C"; ++date.YearType.front())
+      for (date.MonthType = u'A'; date.MonthType <= u"C"; ++date.MonthType.front())
+        for (date.GMet = 1; date.GMet <= 2; ++date.GMet)
+          for (date.MetNum = 0; date.MetNum <= 342; ++date.MetNum)
+            for (date.YearInMet = 1; date.YearInMet <= 19; ++date.YearInMet)
+              for (date.Month = 1; date.Month <= 13; ++date.Month)
+                for (date.Day = 1; date.Day <= 30; ++date.Day)
+                  if (CheckLksDate(date) == 0) ++accepted;
   EXPECT_EQ(accepted, 4732808);
 }
 
+TEST_F(Lunar, DaysOutsideTheCalendar) {
+  LksDate date{};
+  EXPECT_EQ(JdnToLksDate(1721426, date, false), 0);
+  EXPECT_EQ(JdnToLksDate(1721425, date, false), -3);
+  EXPECT_EQ(JdnToLksDate(4740141, date, true), -2);
+  EXPECT_EQ(JdnToLksDate(7332, date, false), -1);
+  EXPECT_EQ(date.Jdn, 7332);
+  EXPECT_EQ(date.Valid, LksFalse);
+  EXPECT_EQ(date.Label, u"");
+  EXPECT_EQ(date.MetNum, 248);  // kept from the day that there is
+}
+
 TEST_F(Lunar, StatusOfDates) {
-  std::tuple<LksDate, int, std::int32_t> rows[] = {
-      {{2, u"A", 1, u"B", 1, u"B", 12, 29, -1, 0, {}}, -6, 2374090},
-      {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 0, {}}, -5, -1},
-      {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 0, {}}, -5, -1},
-      {{2, u"A", 1, u"B", 1, u"D", 1, 1, -1, 0, {}}, -7, -1},
-      {{2, u"A", 1, u"B", 1, u"A", 14, 1, -1, 0, {}}, -8, -1},
-      {{2, u"A", 1, u"B", 1, u"A", 0, 1, -1, 0, {}}, -8, -1},
-      {{2, u"A", 1, u"B", 1, u"A", 1, 31, -1, 0, {}}, -10, -1}};
-  for (auto& [date, status, jdn] : rows) {  // the day stays -1 before the last check
-    EXPECT_EQ(CheckLksDate(date), status) << testing::PrintToString(LksDateLabel(date));
-    EXPECT_TRUE(date.Jdn == jdn && date.Valid == LksFalse);
+  // The day stays -1 before the last check.
+  const std::tuple<LksDate, std::int16_t, std::int32_t> rows[] = {
+      {{2, u"A", 0, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
+      {{2, u"A", 342, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
+      {{2, u"A", 2, u"A", 1, u"A", 1, 1, -1, 1, u""}, -4, -1},
+      {{2, u"A", 1, u"A", 1, u"A", 1, 1, -1, 1, u""}, -5, -1},
+      {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 1, u""}, -5, -1},
+      {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 1, u""}, -5, -1},
+      {{2, u"A", 1, u"B", 1, u"", 1, 1, -1, 1, u""}, -7, -1},
+      {{2, u"A", 1, u"B", 1, u"D", 1, 1, -1, 1, u""}, -7, -1},
+      {{2, u"A", 1, u"B", 1, u"A", 0, 1, -1, 1, u""}, -8, -1},
+      {{2, u"A", 1, u"B", 1, u"A", 14, 1, -1, 1, u""}, -8, -1},
+      {{2, u"A", 1, u"B", 1, u"A", 1, 0, -1, 1, u""}, -10, -1},
+      {{2, u"A", 1, u"B", 1, u"A", 1, 31, -1, 1, u""}, -10, -1},
+      {{2, u"A", 1, u"B", 1, u"C", 1, 1, -1, 1, u""}, -6, 2373737},
+      {{2, u"A", 1, u"B", 1, u"B", 12, 29, -1, 1, u""}, -6, 2374090},
+      {{2, u"A", 1, u"B", 1, u"A", 13, 1, -1, 1, u""}, -6, 2374092},
+      {{2, u"A", 1, u"A", 2, u"A", 13, 1, -1, 1, u""}, -6, 2374446},
+      {{3, u"A", 341, u"C", 19, u"A", 13, 30, -1, 1, u""}, -6, 2373736},
+      {{0, u"A", 1, u"B", 1, u"A", 1, 1, -1, 1, u""}, -6, 7333},
+  };
+  for (auto [date, status, jdn] : rows) {
+    SCOPED_TRACE(testing::PrintToString(LksDateLabel(date)));
+    EXPECT_EQ(CheckLksDate(date), status);
+    EXPECT_EQ(date.Jdn, jdn);
+    EXPECT_EQ(date.Valid, LksFalse);
   }
-  EXPECT_TRUE(LunarWeekdayName(30, u"B").empty() && LunarWeekdayName(0, u"A").empty());
+}
+
+TEST_F(Lunar, Labels) {
+  EXPECT_EQ(LksDateLabel({2, u"C", 212, u"B", 1, u"B", 2, 9, 0, 0, u""}),
+            u"GMet-2 MC-212 LYB-1 LB-2 9 day (Tuesday) 9/29 gibbous moon (waxing)");
+  EXPECT_EQ(LksDateLabel({-32768, u"", 999, u"no", 1000, u"A", 99, 31, 0, 0, u""}),
+            u"GMet--32768 M-999 LYno-1000 LA-99 31 day () 31/30 crescent moon (waning)");
+  EXPECT_EQ(LksDateLabel({0, u"A", 10, u"B", 9, u"C", 100, 0, 0, 0, u""}),
+            u"GMet-0 MA-10 LYB-9 LC-100 0 day () 0/29 crescent moon (waxing)");
+}
+
+TEST_F(Lunar, WeekdaysAndPhases) {
+  std::u16string in_a;
+  std::u16string in_b;
+  for (std::int16_t day = 0; day <= 31; ++day) {
+    in_a.append(LunarWeekdayName(day, u"A")).append(u" ");
+    in_b.append(LunarWeekdayName(day, u"B")).append(u" ");
+  }
+  const std::u16string week6 = u"Monday Tuesday Wednesday Thursday Friday Saturday ";
+  const std::u16string week7 = week6 + u"Sunday ";
+  const std::u16string week8 = week7 + u"Lunaday ";
+  EXPECT_EQ(in_a, u" " + week7 + week8 + week7 + week8 + u" ");  // no day 0, no day 31
+  EXPECT_EQ(in_b, u" " + week7 + week8 + week6 + week8 + u"  ");
+
+  const std::tuple<std::int16_t, std::int16_t, std::u16string_view> phases[] = {
+      {0, 0, u"crescent moon (waxing)"},   {1, 1, u"dark moon"},
+      {2, 6, u"crescent moon (waxing)"},   {7, 8, u"half moon (1st quarter)"},
+      {9, 14, u"gibbous moon (waxing)"},   {15, 15, u"full moon"},
+      {16, 22, u"gibbous moon (waning)"},  {23, 24, u"half moon (3rd quarter)"},
+      {25, 31, u"crescent moon (waning)"},
+  };
+  for (const auto& [first_day, last_day, name] : phases) {
+    for (std::int16_t day = first_day; day <= last_day; ++day) {
+      EXPECT_EQ(MoonPhaseName(day), name) << day;
+    }
+  }
 }
