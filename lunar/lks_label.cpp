@@ -34,8 +34,8 @@ std::u16string DayText(std::int16_t day, std::u16string_view month_type) {
 }
 
 std::vector<std::u16string> DayTexts(std::u16string_view month_type) {
-  std::vector<std::u16string> texts(1);  // entry 0 is not used
-  for (std::int16_t day = 1; day <= 30; ++day) texts.push_back(DayText(day, month_type));
+  std::vector<std::u16string> texts;
+  for (std::int16_t day = 0; day <= 30; ++day) texts.push_back(DayText(day, month_type));
   return texts;
 }
 
@@ -51,8 +51,9 @@ void WriteLksDateLabel(const LksDate& date, std::u16string& label) {
   static const std::vector<std::u16string> TextsInA = DayTexts(u"A");
   static const std::vector<std::u16string> TextsInB = DayTexts(u"B");
   const bool is_a = date.MonthType == u"A";
-  if (date.Day >= 1 && date.Day <= 30 && (is_a || date.MonthType == u"B")) {
-    label.append((is_a ? TextsInA : TextsInB)[static_cast<std::size_t>(date.Day)]);
+  const auto day = static_cast<std::size_t>(date.Day);  // a negative one lies beyond the table
+  if (day < TextsInA.size() && (is_a || date.MonthType == u"B")) {
+    label.append((is_a ? TextsInA : TextsInB)[day]);
   } else {
     label.append(DayText(date.Day, date.MonthType));
   }

@@ -72,9 +72,8 @@ void InitLksTables() {
 
 const CycleYears& YearsOf(std::u16string_view met_type) {
   const char16_t letter = met_type.size() == 1 ? met_type.front() : u'C';
-  return letter == u'A'   ? values.years_of_a
-         : letter == u'B' ? values.years_of_b
-                          : values.years_of_c;
+  if (letter == u'A') return values.years_of_a;
+  return letter == u'B' ? values.years_of_b : values.years_of_c;
 }
 
 std::int32_t YearDays(char16_t letter) {

@@ -87,7 +87,7 @@ TEST_F(Lunar, StatusOfDates) {
       {{2, u"A", 1, u"A", 1, u"A", 1, 1, -1, 1, u""}, -5, -1},
       {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 1, u""}, -5, -1},
       {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 1, u""}, -5, -1},
-      {{2, u"A", 1, u"B", 1, u"", 1, 1, -1, 1, u""}, -7, -1},
+      {{2, u"A", 1, u"B", 1, u"@", 1, 1, -1, 1, u""}, -7, -1},
       {{2, u"A", 1, u"B", 1, u"D", 1, 1, -1, 1, u""}, -7, -1},
       {{2, u"A", 1, u"B", 1, u"A", 0, 1, -1, 1, u""}, -8, -1},
       {{2, u"A", 1, u"B", 1, u"A", 14, 1, -1, 1, u""}, -8, -1},
@@ -113,8 +113,8 @@ TEST_F(Lunar, Labels) {
             u"GMet-2 MC-212 LYB-1 LB-2 9 day (Tuesday) 9/29 gibbous moon (waxing)");
   EXPECT_EQ(LksDateLabel({-32768, u"", 999, u"no", 1000, u"A", 99, 31, 0, 0, u""}),
             u"GMet--32768 M-999 LYno-1000 LA-99 31 day () 31/30 crescent moon (waning)");
-  EXPECT_EQ(LksDateLabel({0, u"A", 10, u"B", 9, u"C", 100, 0, 0, 0, u""}),
-            u"GMet-0 MA-10 LYB-9 LC-100 0 day () 0/29 crescent moon (waxing)");
+  EXPECT_EQ(LksDateLabel({0, u"A", 10, u"B", 9, u"C", 100, 1, 0, 0, u""}),
+            u"GMet-0 MA-10 LYB-9 LC-100 1 day () 1/29 dark moon");
 }
 
 TEST_F(Lunar, WeekdaysAndPhases) {
