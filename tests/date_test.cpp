@@ -37,8 +37,10 @@ TEST_F(Dates, EveryDayOfEveryYear) {
   }
 }
 
-TEST_F(Dates, OtherCalendarsAndTooLateDays) {
-  for (EuroDate date : {EuroDate{2010, 5, 1, u'J', 0, 1}, {5874898, 6, 4, u'G', 0, 1}}) {
+TEST_F(Dates, OtherCalendarsAndFarDays) {
+  const EuroDate dates[] = {
+      {2010, 5, 1, u'J', 0, 1}, {5874898, 6, 4, u'G', 0, 1}, {-5884323, 5, 14, u'G', 0, 1}};
+  for (EuroDate date : dates) {
     EuroDateToJdn(date);
     EXPECT_EQ(date.valid, 0) << date.year;
     EXPECT_EQ(date.jdn, NoSuchDayJdn) << date.year;
@@ -75,4 +77,6 @@ TEST_F(Dates, OrdersSignsAndThousands) {
   EXPECT_EQ(DateText({10000, 1, 2, u'G', 0, 1}, DateOrderMDY, u"-", u".x"), u"01-02-10.000");
   EXPECT_EQ(DateText({-10000, 1, 2, u'G', 0, 1}, DateOrderYMD, u"-", u","), u"-10,000-01-02");
   EXPECT_EQ(DateText({-123456, 1, 2, u'G', 0, 1}, DateOrderDMY, u"-", u""), u"02-01-(-123456)");
+  EXPECT_EQ(SeparateThousands(u"-123456", u","), u"-123,456");
+  EXPECT_EQ(SeparateThousands(u"12345678901234567890", u","), u"12,345,678,901,234,");  // 20 bytes
 }
