@@ -7,13 +7,14 @@ namespace {
 
 using namespace std::string_view_literals;
 
-inline void Append(std::u16string& text, std::u16string_view piece) {
+// A literal is to come as ""sv, which carries its length; a bare one is counted every time.
+void Append(std::u16string& text, std::u16string_view piece) {
   text.append(piece);
 }
 
 // The numbers of the calendar have three digits at most: written in place they take a fraction of
 // the time.
-inline void Append(std::u16string& text, std::int16_t number) {
+void Append(std::u16string& text, std::int16_t number) {
   if (number < 0 || number > 999) return Append(text, StrProc::Decimal(number));
   if (number > 99) text.push_back(static_cast<char16_t>(u'0' + number / 100));
   if (number > 9) text.push_back(static_cast<char16_t>(u'0' + number / 10 % 10));
@@ -33,6 +34,7 @@ std::u16string DayText(std::int16_t day, std::u16string_view month_type) {
   return text;
 }
 
+// Those of the days 0 to 30.
 std::vector<std::u16string> DayTexts(std::u16string_view month_type) {
   std::vector<std::u16string> texts;
   for (std::int16_t day = 0; day <= 30; ++day) texts.push_back(DayText(day, month_type));
