@@ -11,10 +11,10 @@ constexpr std::u16string_view InvalidInput = u"Invalid input";
 
 std::u16string InvalidLksText(const LksDate& date, std::int16_t status) {
   std::u16string text = u"Invalid input for Lunar Karvel-Sorand date.";
-  if (status == -4) {
+  if (status == Karvel_Sorand::LksWrongMetType) {
     const char16_t type = Karvel_Sorand::MetCycleTypes[static_cast<std::size_t>(date.MetNum) - 1];
     text += u"\r\nMetonic cycle " + Decimal(date.MetNum) + u" is of type " + type + u".";
-  } else if (status != -6) {
+  } else if (status != Karvel_Sorand::LksNoSuchDate) {
     text += u"\r\nError code " + Decimal(status);
   }
   return text;

@@ -75,7 +75,7 @@ void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
   const std::u16string_view year = cboYearInMet.Item(cboYearInMet.ListIndex());
   const std::u16string_view month = cboMonth[Lunar].Item(cboMonth[Lunar].ListIndex());
   if (year.empty() || month.empty()) {
-    status = -5;
+    status = Karvel_Sorand::LksWrongYear;
     return;
   }
   TakeApart(year, 2, date.YearType, date.YearInMet);

@@ -42,6 +42,14 @@ std::vector<std::u16string> YearsOfMetCycle() {
   return items;
 }
 
+std::vector<std::u16string> GreatCycles() {
+  std::vector<std::u16string> items;
+  for (int cycle = 1; cycle <= Karvel_Sorand::GreatCycleCount; ++cycle) {
+    items.push_back(u"GMet-" + Decimal(cycle));
+  }
+  return items;
+}
+
 }  // namespace
 
 void frmMain::Form_Load() {
@@ -85,5 +93,5 @@ void frmMain::FillDateLists() {
   FillList(cboDay[Solar], Numbers(31), 0);
   FillList(cboDay[Lunar], Numbers(30), 0);
   FillList(cboMType, {u"A", u"B", u"C"}, 0);
-  FillList(cboGMet, {u"GMet-1", u"GMet-2"}, 1);
+  FillList(cboGMet, GreatCycles(), 1);  // GMet-2, in which we live
 }
