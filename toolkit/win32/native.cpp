@@ -4,7 +4,6 @@
 #include <tuple>
 
 #include "native_window.h"
-#include "spoken_name.h"
 
 namespace Win32 {
 
@@ -15,6 +14,14 @@ namespace {
 const char16_t* FaceAt(std::u16string_view face, int dpi) {
   constexpr int DpiOfBitmaps = 96;
   return face == u"MS Sans Serif" && dpi != DpiOfBitmaps ? u"Microsoft Sans Serif" : face.data();
+}
+
+// Screen readers take the name of a text box or a list from the text that stands before it. No one
+// else sees this one: it is not visible, and it has no number of its own.
+void PutNameBefore(HWND window, std::u16string_view name) {
+  constexpr INT_PTR NoNumber = 0xFFFF;
+  CreateWindowExW(0, L"STATIC", Wide(name.data()), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
+                  reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr);
 }
 
 }  // namespace
@@ -53,12 +60,12 @@ std::u16string TextOf(HWND window) {
 
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
+  if (!row.spoken_name.empty()) PutNameBefore(window.Handle(), row.spoken_name);
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
                           WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Handle(),
                           reinterpret_cast<HMENU>(INT_PTR{window.NewControlId()}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-  if (!row.spoken_name.empty()) GiveSpokenName(hwnd_, Wide(row.spoken_name.data()));
 }
 
 void Native::Place() {
