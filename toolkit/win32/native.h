@@ -38,10 +38,11 @@ HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi);
 // The text of a window.
 std::u16string TextOf(HWND window);
 
-// Takes away the margins that a line to type in has with outline fonts, and not with bitmaps: the
-// fields are just wide enough for their texts. To be called after the font is set.
-inline void TakeMargins(HWND line) {
-  SendMessageW(line, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+// Takes away the margins that what can be typed in has with outline fonts, and not with bitmaps:
+// the fields are just wide enough for their texts, the pane for lines of 76 characters. To be
+// called after the font is set.
+inline void TakeMargins(HWND edit) {
+  SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
 }
 
 class NativeWindow;

@@ -37,7 +37,7 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
 
 void TextBox::Place() {
   Native::Place();
-  if (!row_.properties.several_lines) TakeMargins(hwnd_);
+  TakeMargins(hwnd_);
 }
 
 LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
