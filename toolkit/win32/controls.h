@@ -56,6 +56,7 @@ class List : public Toolkit::List, public Native {
   void ApplyNewItem(const std::u16string& item) override;
   void ApplyClear() override;
   void ApplyListIndex(int index) override;
+  void Select(int index);
 
   int chosen_ = -1;             // the last choice, whether the user's or the program's
   bool open_ = false;           // the list is dropped down

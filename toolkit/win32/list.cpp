@@ -1,10 +1,12 @@
 #include "controls.h"
 
+#include <commctrl.h>
+
 namespace Win32 {
 
 namespace {
 
-constexpr int ItemsShown = 12;
+constexpr WPARAM ItemsShown = 12;                       // at most, in the open list
 constexpr WPARAM ClosedPart = static_cast<WPARAM>(-1);  // the item height of the closed list
 
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
@@ -17,15 +19,12 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 List::List(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   if (row.properties.typed_in) SetWindowTextW(hwnd_, Wide(row.text.data()));
+  Send(CB_SETMINVISIBLE, ItemsShown);
 }
 
 void List::Place() {
   Native::Place();
-  // The height that a combined list is given is that of its open list.
-  const auto item = static_cast<int>(Send(CB_GETITEMHEIGHT, 0));
   const int height = Pixels(row_.height, window_.Dpi());
-  SetWindowPos(hwnd_, nullptr, 0, 0, Pixels(row_.width, window_.Dpi()),
-               height + ItemsShown * item + 2, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
   // Wine adds 2 to what it is told.
   LRESULT text_height = Send(CB_GETITEMHEIGHT, ClosedPart);
@@ -85,18 +84,27 @@ void List::Notified(WORD code) {
   }
 }
 
+// What counts and what is shown become the same: the item that was chosen, or what stood there
+// before. An item can be chosen by the first letters of its name alone, typed into the open list.
 void List::Settled() {
   if (open_) return;
-  if (!accepted_) {
-    accepted_ = true;
-    Send(CB_SETCURSEL, static_cast<WPARAM>(chosen_));
-    if (chosen_ < 0) SetWindowTextW(hwnd_, Wide(closed_text_));
+  const auto now = static_cast<int>(Send(CB_GETCURSEL));
+  const bool is_choice = accepted_ && now >= 0 && now != chosen_;
+  accepted_ = true;
+  if (is_choice) {
+    Select(now);
+    NoteChosen();
     return;
   }
-  const auto now = static_cast<int>(Send(CB_GETCURSEL));
-  if (now < 0 || now == chosen_) return;
-  chosen_ = now;
-  NoteChosen();
+  if (now != chosen_) Select(chosen_);
+  if (chosen_ < 0 && TextOf(hwnd_) != closed_text_) SetWindowTextW(hwnd_, Wide(closed_text_));
+}
+
+// The choice is kept last: should the platform report the line's new text as typed, it would be
+// lost.
+void List::Select(int index) {
+  Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+  chosen_ = index;
 }
 
 void List::ApplyNewItem(const std::u16string& item) {
@@ -104,14 +112,13 @@ void List::ApplyNewItem(const std::u16string& item) {
 }
 
 void List::ApplyClear() {
-  chosen_ = -1;
   Send(CB_RESETCONTENT);
+  chosen_ = -1;
 }
 
 void List::ApplyListIndex(int index) {
-  chosen_ = index;
   PaintLater();
-  Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+  Select(index);
 }
 
 }  // namespace Win32
