@@ -1,5 +1,7 @@
 #include "native_window.h"
 
+#include <map>
+
 namespace Win32 {
 
 namespace {
@@ -19,6 +21,15 @@ void ForEachControl(HWND window, Use use) {
 HICON ProgramIcon(int width, int height) {
   return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON,
                                        GetSystemMetrics(width), GetSystemMetrics(height), 0));
+}
+
+// A brush for a ground; made once, kept for the life of the program. It is a solid one, since a
+// themed button may fill its ground through another device context than the one that it asks for.
+HBRUSH BrushOf(Toolkit::Color color) {
+  static std::map<Toolkit::Color, HBRUSH> brushes;
+  HBRUSH& made = brushes[color];
+  if (!made) made = CreateSolidBrush(static_cast<COLORREF>(color));
+  return made;
 }
 
 }  // namespace
@@ -156,11 +167,9 @@ LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
       break;
     case WM_ERASEBKGND: {
       if (BackColor() == UsualColor) break;
-      const auto dc = reinterpret_cast<HDC>(wparam);
       RECT client;
       GetClientRect(hwnd_, &client);
-      SetDCBrushColor(dc, static_cast<COLORREF>(BackColor()));
-      FillRect(dc, &client, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+      FillRect(reinterpret_cast<HDC>(wparam), &client, BrushOf(BackColor()));
       return TRUE;
     }
     default:
@@ -198,8 +207,7 @@ HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
   // Black under every theme: the yellow does not change with it.
   SetTextColor(dc, Black);
   SetBkColor(dc, static_cast<COLORREF>(colours->BackColor()));
-  SetDCBrushColor(dc, static_cast<COLORREF>(colours->BackColor()));
-  return static_cast<HBRUSH>(GetStockObject(DC_BRUSH));
+  return BrushOf(colours->BackColor());
 }
 
 void NativeWindow::Resize(int dpi) {
