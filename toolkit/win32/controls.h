@@ -36,7 +36,7 @@ class TextBox : public Toolkit::TextBox, public Native {
   void Place() override;
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam,
                                     UINT_PTR id, DWORD_PTR self);
-  bool Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
+  bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
   bool IsTypedTab(WPARAM key) const;
   LRESULT WantedKeys(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;

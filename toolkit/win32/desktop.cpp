@@ -35,12 +35,12 @@ class DesktopOnWin32 : public Desktop {
 
   void ShowMessage(std::u16string_view text, std::u16string_view title,
                    Toolkit::Icon icon) override {
-    MessageBoxW(window_.Handle(), Wide(std::u16string(text)), Wide(std::u16string(title)),
+    MessageBoxW(window_.Hwnd(), Wide(std::u16string(text)), Wide(std::u16string(title)),
                 MB_OK | static_cast<UINT>(icon));
   }
 
   void SetClipboardText(std::u16string_view text) override {
-    ReplaceClipboard(window_.Handle(), text);
+    ReplaceClipboard(window_.Hwnd(), text);
   }
 
  private:

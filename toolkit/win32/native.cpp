@@ -60,9 +60,9 @@ std::u16string TextOf(HWND window) {
 
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
-  if (!row.spoken_name.empty()) PutNameBefore(window.Handle(), row.spoken_name);
+  if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
-                          WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Handle(),
+                          WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
                           reinterpret_cast<HMENU>(INT_PTR{window.NewControlId()}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
@@ -81,14 +81,14 @@ void Native::UseFont(bool bold) {
 }
 
 void Native::PostSettle() {
-  PostMessageW(window_.Handle(), SettleMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
+  PostMessageW(window_.Hwnd(), SettleMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
 }
 
 void Native::PaintLater() {
   if (paints_later_ || !IsWindowVisible(hwnd_)) return;
   paints_later_ = true;
   Send(WM_SETREDRAW, FALSE);
-  PostMessageW(window_.Handle(), PaintMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
+  PostMessageW(window_.Hwnd(), PaintMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
 }
 
 void Native::Paint() {

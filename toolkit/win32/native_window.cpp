@@ -114,10 +114,10 @@ void NativeWindow::RememberFocus() {
 LRESULT CALLBACK NativeWindow::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
   auto* const self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
   if (!self) return DefDlgProcW(hwnd, message, wparam, lparam);
-  return self->Handle(message, wparam, lparam);
+  return self->OnMessage(message, wparam, lparam);
 }
 
-LRESULT NativeWindow::Handle(UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_ACTIVATE:
       // The dialog manager would give the focus back to a control that may have turned disabled in

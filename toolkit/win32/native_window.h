@@ -11,7 +11,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
  public:
   NativeWindow(int client_width, int client_height);
 
-  HWND Handle() const { return hwnd_; }
+  HWND Hwnd() const { return hwnd_; }
   int Dpi() const { return dpi_; }
   int NewControlId() { return next_control_id_++; }
 
@@ -25,7 +25,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
 
  private:
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
-  LRESULT Handle(UINT message, WPARAM wparam, LPARAM lparam);
+  LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   void ApplyCaption() override;
   void ApplyBackColor() override;
 

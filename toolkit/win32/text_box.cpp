@@ -43,12 +43,12 @@ void TextBox::Place() {
 LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                                     DWORD_PTR self) {
   LRESULT result = 0;
-  if (reinterpret_cast<TextBox*>(self)->Handle(message, wparam, lparam, result)) return result;
+  if (reinterpret_cast<TextBox*>(self)->OnMessage(message, wparam, lparam, result)) return result;
   return DefSubclassProc(hwnd, message, wparam, lparam);
 }
 
 // Tells whether the message has been dealt with.
-bool TextBox::Handle(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
+bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
   switch (message) {
     case WM_GETDLGCODE:
       result = WantedKeys(reinterpret_cast<const MSG*>(lparam));
