@@ -51,6 +51,7 @@ class List : public Toolkit::List, public Native {
 
  private:
   void Place() override;
+  void WidenForArrow(int height);
   void Notified(WORD code) override;
   void Settled() override;
   void ApplyNewItem(const std::u16string& item) override;

@@ -25,6 +25,7 @@ List::List(NativeWindow& window, const Toolkit::StoredControl& row)
 void List::Place() {
   Native::Place();
   const int height = Pixels(row_.height, window_.Dpi());
+  WidenForArrow(height);
   // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
   // Wine adds 2 to what it is told.
   LRESULT text_height = Send(CB_GETITEMHEIGHT, ClosedPart);
@@ -39,6 +40,21 @@ void List::Place() {
   if (row_.properties.typed_in) TakeMargins(GetWindow(hwnd_, GW_CHILD));
   // Placing a list selects the text in its line.
   Send(CB_SETEDITSEL, 0, 0);
+}
+
+// The arrow is as wide as the scroll bars of the monitor. Where the window is drawn smaller than
+// that it would leave no room for the text: the list gets wider by what is too much, and ends, for
+// the eye and for the mouse, where it should.
+void List::WidenForArrow(int height) {
+  COMBOBOXINFO parts = {};
+  parts.cbSize = sizeof parts;
+  GetComboBoxInfo(hwnd_, &parts);
+  const int arrow = parts.rcButton.right - parts.rcButton.left;
+  const int too_much = arrow - MulDiv(arrow, window_.Dpi(), window_.MonitorDpi());
+  const int width = Pixels(row_.width, window_.Dpi());
+  SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
+               SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+  CutTo(too_much > 0 ? CreateRectRgn(0, 0, width, height) : nullptr);
 }
 
 // A list that is browsed still holds the last choice, and typed text is none.

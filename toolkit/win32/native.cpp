@@ -68,12 +68,26 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
-void Native::Place() {
+RECT Native::StoredPlace() const {
   const int dpi = window_.Dpi();
-  SetWindowPos(hwnd_, nullptr, Pixels(row_.container.left + row_.left, dpi),
-               Pixels(row_.container.top + row_.top, dpi), Pixels(row_.width, dpi),
-               Pixels(row_.height, dpi), SWP_NOZORDER | SWP_NOACTIVATE);
+  const int left = Pixels(row_.container.left + row_.left, dpi);
+  const int top = Pixels(row_.container.top + row_.top, dpi);
+  return {left, top, left + Pixels(row_.width, dpi), top + Pixels(row_.height, dpi)};
+}
+
+void Native::Place() {
+  const RECT place = StoredPlace();
+  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   UseFont(false);
+}
+
+void Native::CutTo(HRGN region) {
+  SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
+  // The classes of labels and buttons otherwise draw with the region of the window around them.
+  SetClassLongPtrW(
+      hwnd_, GCL_STYLE,
+      static_cast<LONG_PTR>(GetClassLongPtrW(hwnd_, GCL_STYLE) & ~ULONG_PTR{CS_PARENTDC}));
 }
 
 void Native::UseFont(bool bold) {

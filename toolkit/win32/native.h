@@ -66,8 +66,9 @@ class Native {
 
   Toolkit::Kind Kind() const { return row_.kind; }
 
-  // Puts the control where its row has it, and gives it its font.
-  virtual void Place();
+  RECT StoredPlace() const;  // where its row has the control, in the pixels of the client area
+  virtual void Place();      // puts it there, and gives it its font
+  void CutTo(HRGN region);   // draws nothing outside it; null takes the cut back
 
   virtual void FollowTheme() {}   // the user has chosen another theme
   virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND

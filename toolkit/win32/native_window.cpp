@@ -9,14 +9,6 @@ namespace {
 constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 constexpr COLORREF Black = RGB(0, 0, 0);
 
-// Calls `use` for each control of the window that is one of ours.
-template <class Use>
-void ForEachControl(HWND window, Use use) {
-  for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-    if (Native* const native = Native::Of(child)) use(child, *native);
-  }
-}
-
 // The icon of the program, in the size that the system wants for one of its places.
 HICON ProgramIcon(int width, int height) {
   return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON,
@@ -65,7 +57,8 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   if (const auto set_behavior = UserFunction<Change>("SetDialogDpiChangeBehavior")) {
     set_behavior(hwnd_, DisableAll, DisableAll);
   }
-  Resize(DpiOf(hwnd_));
+  monitor_dpi_ = DpiOf(hwnd_);
+  Fit();
 }
 
 int NativeWindow::RunLoop() {
@@ -128,17 +121,37 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (remembered_focus_) ::SetFocus(remembered_focus_);
       return 0;
     case WM_SIZE:
+      // There is no button for it, but a shortcut or another program can ask for it.
+      if (wparam == SIZE_MAXIMIZED) ShowWindow(hwnd_, SW_RESTORE);
+      if (wparam == SIZE_RESTORED) Fit();
       // A minimised window could not give the focus to a control.
       if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) {
         ::SetFocus(remembered_focus_);
       }
       break;
+    case WM_GETMINMAXINFO:
+      // The system would cut the window to the size of the screen.
+      reinterpret_cast<MINMAXINFO*>(lparam)->ptMaxTrackSize = {SHRT_MAX, SHRT_MAX};
+      return 0;
+    case WM_ENTERSIZEMOVE:
+      is_dragged_ = true;
+      break;
+    case WM_EXITSIZEMOVE:
+      is_dragged_ = false;
+      Fit();
+      break;
+    case WM_MOVE:
+    case WM_DISPLAYCHANGE:
+      Fit();
+      break;
     case WM_DPICHANGED:
       MoveToDpi(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
       return 0;
+    case WM_SETTINGCHANGE:  // the work area among others
+      Fit();
+      [[fallthrough]];
     case WM_THEMECHANGED:
-    case WM_SETTINGCHANGE:
-      ForEachControl(hwnd_, [](HWND, Native& native) { native.FollowTheme(); });
+      ForEachControl([](Native& native) { native.FollowTheme(); });
       break;
     case WM_COMMAND:
       Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
@@ -148,6 +161,9 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case PaintMessage:
       if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Paint();
+      return 0;
+    case PlaceMessage:
+      PlaceControls();
       return 0;
     case WM_TIMER:
       if (wparam == TimerId && Tick) Tick();
@@ -208,70 +224,6 @@ HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
   SetTextColor(dc, Black);
   SetBkColor(dc, static_cast<COLORREF>(colours->BackColor()));
   return BrushOf(colours->BackColor());
-}
-
-void NativeWindow::Resize(int dpi) {
-  dpi_ = dpi;
-  // The client area counts. What the frame adds is seen once the window is larger than its frame,
-  // so the first size of a new window is a guess.
-  for (int tries = 0; tries < 2; ++tries) {
-    RECT outer;
-    RECT client;
-    GetWindowRect(hwnd_, &outer);
-    GetClientRect(hwnd_, &client);
-    SetWindowPos(hwnd_, nullptr, 0, 0,
-                 outer.right - outer.left - client.right + Pixels(client_width_, dpi),
-                 outer.bottom - outer.top - client.bottom + Pixels(client_height_, dpi),
-                 SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  }
-}
-
-void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
-  // The whole place at once: a window that is resized where it was may change its monitor again.
-  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
-               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  Resize(dpi);
-  ForEachControl(hwnd_, [](HWND, Native& native) { native.Place(); });
-  KeepOffFields();
-  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
-}
-
-// Some labels and options reach a few pixels into a field beside them, and would paint their ground
-// over its border: they are cut back to where they do not.
-void NativeWindow::KeepOffFields() {
-  ForEachControl(hwnd_, [this](HWND ground, Native& native) {
-    RECT rect;
-    if (native.Kind() != Toolkit::Kind::Label && native.Kind() != Toolkit::Kind::OptionButton)
-      return;
-    GetWindowRect(ground, &rect);
-    const HRGN region = CreateRectRgn(0, 0, rect.right - rect.left, rect.bottom - rect.top);
-    ForEachControl(hwnd_, [&](HWND field, Native& other) {
-      RECT cut;
-      if (other.Kind() != Toolkit::Kind::TextBox && other.Kind() != Toolkit::Kind::List) return;
-      GetWindowRect(field, &cut);
-      OffsetRect(&cut, -rect.left, -rect.top);
-      const HRGN taken = CreateRectRgnIndirect(&cut);
-      CombineRgn(region, region, taken, RGN_DIFF);
-      DeleteObject(taken);
-    });
-    SetWindowRgn(ground, region, FALSE);  // which owns it from now on
-    // The classes of these controls otherwise draw with the region of the window around them.
-    SetClassLongPtrW(
-        ground, GCL_STYLE,
-        static_cast<LONG_PTR>(GetClassLongPtrW(ground, GCL_STYLE) & ~ULONG_PTR{CS_PARENTDC}));
-  });
-}
-
-void NativeWindow::Centre() {
-  MONITORINFO monitor = {};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(hwnd_, MONITOR_DEFAULTTOPRIMARY), &monitor);
-  const RECT& area = monitor.rcWork;
-  RECT window;
-  GetWindowRect(hwnd_, &window);
-  SetWindowPos(hwnd_, nullptr, (area.left + area.right - (window.right - window.left)) / 2,
-               (area.top + area.bottom - (window.bottom - window.top)) / 2, 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void NativeWindow::ApplyCaption() {

@@ -12,7 +12,10 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   NativeWindow(int client_width, int client_height);
 
   HWND Hwnd() const { return hwnd_; }
+  // The dots per inch that the window is drawn with: those of its monitor, or as many fewer as it
+  // takes for the whole window to lie on it.
   int Dpi() const { return dpi_; }
+  int MonitorDpi() const { return monitor_dpi_; }
   int NewControlId() { return next_control_id_++; }
 
   int RunLoop();  // brings the window to the screen and serves it; gives the exit code
@@ -34,20 +37,39 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   void Activated();
   void Command(WORD id, WORD code, HWND control);
   HBRUSH PaintGround(HDC dc, HWND control) const;
-  void Resize(int dpi);
-  void MoveToDpi(int dpi, const RECT& place);
+
+  // Where the window stands and its controls in it: placement.cpp.
+  template <class Use>
+  void ForEachControl(Use use) const;
   void Centre();
+  void Fit();
+  void MoveToDpi(int dpi, const RECT& place);
+  void PlaceControls();
   void KeepOffFields();
 
   int client_width_, client_height_;  // twips
   HWND hwnd_ = nullptr;
   int dpi_ = 96;
+  int monitor_dpi_ = 96;
+  RECT fitted_area_ = {};  // the work area that the window was fitted into
+  int fitted_dpi_ = 0;     // what its monitor had then
+  bool is_dragged_ = false;
   int next_control_id_ = FirstControlId;
   HWND remembered_focus_ = nullptr;
 };
 
+// Calls `use` for each control of the window that is one of ours.
+template <class Use>
+void NativeWindow::ForEachControl(Use use) const {
+  for (HWND child = GetWindow(hwnd_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    if (Native* const native = Native::Of(child)) use(*native);
+  }
+}
+
 // Posted to the window by Native::PostSettle and Native::PaintLater with the control as WPARAM.
 inline constexpr UINT SettleMessage = WM_APP;
 inline constexpr UINT PaintMessage = WM_APP + 1;
+// Posted by the window to itself: places its controls.
+inline constexpr UINT PlaceMessage = WM_APP + 2;
 
 }  // namespace Win32

@@ -1,0 +1,112 @@
+// Where the window stands, how large it is drawn, and where its controls stand in it.
+#include <algorithm>
+
+#include "native_window.h"
+
+namespace Win32 {
+
+namespace {
+
+constexpr int LowestDpi = 60;  // what is drawn smaller cannot be read
+
+RECT WorkArea(HWND window) {
+  MONITORINFO monitor = {};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
+  return monitor.rcWork;
+}
+
+// The place next to `wanted` where something of that length lies between the two ends. If it is too
+// long it begins at the first of them, where the title bar is.
+int Between(LONG first, LONG last, int length, LONG wanted) {
+  return std::max(first, std::min(wanted, last - length));
+}
+
+}  // namespace
+
+void NativeWindow::Centre() {
+  const RECT area = WorkArea(hwnd_);
+  RECT outer;
+  GetWindowRect(hwnd_, &outer);
+  const int width = outer.right - outer.left;
+  const int height = outer.bottom - outer.top;
+  SetWindowPos(hwnd_, nullptr,
+               Between(area.left, area.right, width, (area.left + area.right - width) / 2),
+               Between(area.top, area.bottom, height, (area.top + area.bottom - height) / 2), 0, 0,
+               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Draws the window at the largest scale, up to that of its monitor, at which the whole of it lies
+// in the work area, and moves it there. Does nothing if it has been fitted to just this; a window
+// that is dragged must not change its size, which could bring it back to the monitor that it comes
+// from, and a minimised one has no size.
+void NativeWindow::Fit() {
+  const RECT area = WorkArea(hwnd_);
+  if (is_dragged_ || IsIconic(hwnd_)) return;
+  if (monitor_dpi_ == fitted_dpi_ && EqualRect(&area, &fitted_area_)) return;
+  fitted_dpi_ = monitor_dpi_;
+  fitted_area_ = area;
+  // What the frame adds is seen once the window is larger than its frame, so the first size of a
+  // new window is a guess.
+  for (int tries = 0; tries < 2; ++tries) {
+    RECT outer;
+    RECT client;
+    GetWindowRect(hwnd_, &outer);
+    GetClientRect(hwnd_, &client);
+    const int frame_width = outer.right - outer.left - client.right;
+    const int frame_height = outer.bottom - outer.top - client.bottom;
+    const auto width = [&] { return frame_width + Pixels(client_width_, dpi_); };
+    const auto height = [&] { return frame_height + Pixels(client_height_, dpi_); };
+    const auto lies_inside = [&] {
+      return width() <= area.right - area.left && height() <= area.bottom - area.top;
+    };
+    dpi_ = monitor_dpi_;
+    while (dpi_ > LowestDpi && !lies_inside()) --dpi_;
+    SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(), outer.left),
+                 Between(area.top, area.bottom, height(), outer.top), width(), height(),
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+  PlaceControls();
+}
+
+void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
+  // A dragged window is fitted when it is let go. Until then it grows or shrinks with the place.
+  dpi_ = MulDiv(dpi_, dpi, monitor_dpi_);
+  monitor_dpi_ = dpi;
+  // The whole place at once: a window that is resized where it was may change its monitor again.
+  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
+               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  Fit();
+  // Now, and again when the native controls have heard of the change, too: they may then measure
+  // themselves anew.
+  PlaceControls();
+  PostMessageW(hwnd_, PlaceMessage, 0, 0);
+}
+
+void NativeWindow::PlaceControls() {
+  ForEachControl([](Native& native) { native.Place(); });
+  KeepOffFields();
+  RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+}
+
+// Some labels and options reach a few pixels into a field beside them, and would paint their ground
+// over its border: they are cut back to where they do not.
+void NativeWindow::KeepOffFields() {
+  ForEachControl([this](Native& ground) {
+    if (ground.Kind() != Toolkit::Kind::Label && ground.Kind() != Toolkit::Kind::OptionButton)
+      return;
+    RECT rect = ground.StoredPlace();
+    const HRGN region = CreateRectRgnIndirect(&rect);
+    ForEachControl([&](Native& field) {
+      if (field.Kind() != Toolkit::Kind::TextBox && field.Kind() != Toolkit::Kind::List) return;
+      const RECT cut = field.StoredPlace();
+      const HRGN taken = CreateRectRgnIndirect(&cut);
+      CombineRgn(region, region, taken, RGN_DIFF);
+      DeleteObject(taken);
+    });
+    OffsetRgn(region, -rect.left, -rect.top);
+    ground.CutTo(region);
+  });
+}
+
+}  // namespace Win32
