@@ -110,8 +110,8 @@ def png(rows):
 
 
 def icon():
-    # Old readers know no PNG: only the largest size is one, to save room.
-    images = [(png if n == 256 else bitmap)(draw(n)) for n in SIZES]
+    # Old readers know no PNG: only the sizes that would take much room are.
+    images = [(png if n >= 64 else bitmap)(draw(n)) for n in SIZES]
     head = struct.pack("<HHH", 0, 1, len(SIZES))
     offset = len(head) + 16 * len(SIZES)
     for n, image in zip(SIZES, images):
