@@ -81,7 +81,8 @@ inline void Mouse(int x, int y, bool click) {
   input.type = INPUT_MOUSE;
   input.mi.dx = MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
   input.mi.dy = MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-  for (const DWORD event : {0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
+  for (const DWORD event :
+       std::initializer_list<DWORD>{0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
     input.mi.dwFlags = event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
     if (event == 0 || click) SendInput(1, &input, sizeof input);
   }

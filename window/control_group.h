@@ -8,10 +8,10 @@
 #include "layout.h"
 
 // Controls that share a name, told apart by an index from 0.
-template <class T, int count>
+template <class T, std::size_t count>
 struct ControlGroup {
   using Member = T;
-  static constexpr int Count = count;
+  static constexpr int Count = static_cast<int>(count);
   T* members[count];
   T& operator[](int index) const { return *members[index]; }
 };

@@ -39,7 +39,7 @@ inline constexpr Toolkit::StoredControl Rows[] = {
     {u"lblCopyright", NoIndex, Label, OnWindow, 120, 5600, 9495, 255,
      u"", Sans, u"", {.centred = true}},
     {u"Frame1", NoIndex, Frame, OnWindow, FrameLeft, FrameTop, 11775, 2415,
-     u"", Sans, u"Date", {}},
+     u"", Sans, u"", {}},
     {u"txbYearCE", 1, TextBox, InFrame, 6795, 765, 735, 360,
      u"2399", Sans, u"Solar year", {.max_length = 5}},
     {u"cboDay", 1, List, InFrame, 6040, 765, 600, 360,
