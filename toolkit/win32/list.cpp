@@ -51,10 +51,14 @@ void List::WidenForArrow(int height) {
   GetComboBoxInfo(hwnd_, &parts);
   const int arrow = parts.rcButton.right - parts.rcButton.left;
   const int too_much = arrow - MulDiv(arrow, window_.Dpi(), window_.MonitorDpi());
+  if (too_much <= 0) {
+    CutTo(nullptr);
+    return;
+  }
   const int width = Pixels(row_.width, window_.Dpi());
   SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  CutTo(too_much > 0 ? CreateRectRgn(0, 0, width, height) : nullptr);
+  CutTo(CreateRectRgn(0, 0, width, height));
 }
 
 // A list that is browsed still holds the last choice, and typed text is none.

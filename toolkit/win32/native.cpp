@@ -83,6 +83,9 @@ void Native::Place() {
 }
 
 void Native::CutTo(HRGN region) {
+  // It takes its time, which would show in the start-up.
+  if (!region && !is_cut_) return;
+  is_cut_ = region != nullptr;
   SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
   // The classes of labels and buttons otherwise draw with the region of the window around them.
   SetClassLongPtrW(

@@ -90,6 +90,7 @@ class Native {
 
  private:
   bool paints_later_ = false;
+  bool is_cut_ = false;
 };
 
 }  // namespace Win32

@@ -95,16 +95,19 @@ void NativeWindow::KeepOffFields() {
   ForEachControl([this](Native& ground) {
     if (ground.Kind() != Toolkit::Kind::Label && ground.Kind() != Toolkit::Kind::OptionButton)
       return;
-    RECT rect = ground.StoredPlace();
-    const HRGN region = CreateRectRgnIndirect(&rect);
+    const RECT rect = ground.StoredPlace();
+    HRGN region = nullptr;
     ForEachControl([&](Native& field) {
       if (field.Kind() != Toolkit::Kind::TextBox && field.Kind() != Toolkit::Kind::List) return;
       const RECT cut = field.StoredPlace();
+      RECT common;
+      if (!IntersectRect(&common, &rect, &cut)) return;
+      if (!region) region = CreateRectRgnIndirect(&rect);
       const HRGN taken = CreateRectRgnIndirect(&cut);
       CombineRgn(region, region, taken, RGN_DIFF);
       DeleteObject(taken);
     });
-    OffsetRgn(region, -rect.left, -rect.top);
+    if (region) OffsetRgn(region, -rect.left, -rect.top);
     ground.CutTo(region);
   });
 }
