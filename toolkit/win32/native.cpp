@@ -61,8 +61,10 @@ std::u16string TextOf(HWND window) {
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
   if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);
+  const RECT place = StoredPlace();
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
-                          WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
+                          WS_CHILD | WS_VISIBLE | style.style, place.left, place.top,
+                          place.right - place.left, place.bottom - place.top, window.Hwnd(),
                           reinterpret_cast<HMENU>(INT_PTR{window.NewControlId()}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
