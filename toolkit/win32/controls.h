@@ -78,6 +78,8 @@ class OptionButton : public Toolkit::OptionButton, public Native {
   void ApplyBackColor() override;
   void ApplyValue() override;
   void ApplyFontBold() override;
+
+  bool is_plain_ = false;  // without the theme
 };
 
 class CommandButton : public Toolkit::CommandButton, public Native {

@@ -24,6 +24,8 @@ void OptionButton::FollowTheme() {
   contrast.cbSize = sizeof contrast;
   SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0);
   const bool plain = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
+  if (plain == is_plain_) return;
+  is_plain_ = plain;
   SetWindowTheme(hwnd_, plain ? L"" : nullptr, plain ? L"" : nullptr);
 }
 
