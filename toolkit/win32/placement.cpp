@@ -39,10 +39,10 @@ void NativeWindow::Centre() {
 // Draws the window at the largest scale, up to that of its monitor, at which the whole of it lies
 // in the work area, and moves it there. Does nothing if it has been fitted to just this; a window
 // that is dragged must not change its size, which could bring it back to the monitor that it comes
-// from, and a minimised one has no size.
+// from, and a minimised or maximised one is on its way to its own size.
 void NativeWindow::Fit() {
   const RECT area = WorkArea(hwnd_);
-  if (is_dragged_ || IsIconic(hwnd_)) return;
+  if (is_dragged_ || IsIconic(hwnd_) || IsZoomed(hwnd_)) return;
   if (monitor_dpi_ == fitted_dpi_ && EqualRect(&area, &fitted_area_)) return;
   fitted_dpi_ = monitor_dpi_;
   fitted_area_ = area;
