@@ -34,14 +34,15 @@ class TextBox : public Toolkit::TextBox, public Native {
 
  private:
   void Place() override;
-  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam,
-                                    UINT_PTR id, DWORD_PTR self);
+  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
   bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
   bool IsTypedTab(WPARAM key) const;
   LRESULT WantedKeys(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
   Selection SelectedText() const override;
   void SelectText(Selection selection) override;
+
+  WNDPROC native_procedure_;  // of the native control, for what OnMessage leaves to it
 };
 
 class List : public Toolkit::List, public Native {

@@ -65,7 +65,7 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
   hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
                           WS_CHILD | WS_VISIBLE | style.style, place.left, place.top,
                           place.right - place.left, place.bottom - place.top, window.Hwnd(),
-                          reinterpret_cast<HMENU>(INT_PTR{window.NewControlId()}),
+                          reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),
                           GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }

@@ -1,5 +1,7 @@
 #include "native_window.h"
 
+#include <commctrl.h>
+
 #include <map>
 
 namespace Win32 {
@@ -28,6 +30,9 @@ HBRUSH BrushOf(Toolkit::Color color) {
 
 NativeWindow::NativeWindow(int client_width, int client_height)
     : client_width_(client_width), client_height_(client_height) {
+  // Loads the library whose classes the manifest asks for in place of the system's own.
+  constexpr INITCOMMONCONTROLSEX Classes = {sizeof Classes, ICC_STANDARD_CLASSES};
+  InitCommonControlsEx(&Classes);
   WNDCLASSEXW window_class = {};
   window_class.cbSize = sizeof window_class;
   window_class.lpfnWndProc = Procedure;
@@ -59,6 +64,11 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   }
   monitor_dpi_ = DpiOf(hwnd_);
   Fit();
+}
+
+int NativeWindow::Add(Native& control) {
+  controls_.push_back(&control);
+  return FirstControlId + static_cast<int>(controls_.size()) - 1;
 }
 
 int NativeWindow::RunLoop() {
@@ -151,7 +161,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       Fit();
       [[fallthrough]];
     case WM_THEMECHANGED:
-      ForEachControl([](Native& native) { native.FollowTheme(); });
+      for (Native* const control : controls_) control->FollowTheme();
       break;
     case WM_COMMAND:
       Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));

@@ -16,7 +16,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   // takes for the whole window to lie on it.
   int Dpi() const { return dpi_; }
   int MonitorDpi() const { return monitor_dpi_; }
-  int NewControlId() { return next_control_id_++; }
+  int Add(Native& control);  // gives the number of the control, which is its row's
 
   int RunLoop();  // brings the window to the screen and serves it; gives the exit code
   void End();     // ends RunLoop
@@ -39,8 +39,6 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   HBRUSH PaintGround(HDC dc, HWND control) const;
 
   // Where the window stands and its controls in it: placement.cpp.
-  template <class Use>
-  void ForEachControl(Use use) const;
   void Centre();
   void Fit();
   void MoveToDpi(int dpi, const RECT& place);
@@ -54,17 +52,9 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   RECT fitted_area_ = {};  // the work area that the window was fitted into
   int fitted_dpi_ = 0;     // what its monitor had then
   bool is_dragged_ = false;
-  int next_control_id_ = FirstControlId;
+  std::vector<Native*> controls_;
   HWND remembered_focus_ = nullptr;
 };
-
-// Calls `use` for each control of the window that is one of ours.
-template <class Use>
-void NativeWindow::ForEachControl(Use use) const {
-  for (HWND child = GetWindow(hwnd_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-    if (Native* const native = Native::Of(child)) use(*native);
-  }
-}
 
 // Posted to the window by Native::PostSettle and Native::PaintLater with the control as WPARAM.
 inline constexpr UINT SettleMessage = WM_APP;

@@ -84,7 +84,7 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
 }
 
 void NativeWindow::PlaceControls() {
-  ForEachControl([](Native& native) { native.Place(); });
+  for (Native* const control : controls_) control->Place();
   KeepOffFields();
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -92,24 +92,24 @@ void NativeWindow::PlaceControls() {
 // Some labels and options reach a few pixels into a field beside them, and would paint their ground
 // over its border: they are cut back to where they do not.
 void NativeWindow::KeepOffFields() {
-  ForEachControl([this](Native& ground) {
-    if (ground.Kind() != Toolkit::Kind::Label && ground.Kind() != Toolkit::Kind::OptionButton)
-      return;
-    const RECT rect = ground.StoredPlace();
+  for (Native* const ground : controls_) {
+    if (ground->Kind() != Toolkit::Kind::Label && ground->Kind() != Toolkit::Kind::OptionButton)
+      continue;
+    const RECT rect = ground->StoredPlace();
     HRGN region = nullptr;
-    ForEachControl([&](Native& field) {
-      if (field.Kind() != Toolkit::Kind::TextBox && field.Kind() != Toolkit::Kind::List) return;
-      const RECT cut = field.StoredPlace();
+    for (const Native* const field : controls_) {
+      if (field->Kind() != Toolkit::Kind::TextBox && field->Kind() != Toolkit::Kind::List) continue;
+      const RECT cut = field->StoredPlace();
       RECT common;
-      if (!IntersectRect(&common, &rect, &cut)) return;
+      if (!IntersectRect(&common, &rect, &cut)) continue;
       if (!region) region = CreateRectRgnIndirect(&rect);
       const HRGN taken = CreateRectRgnIndirect(&cut);
       CombineRgn(region, region, taken, RGN_DIFF);
       DeleteObject(taken);
-    });
+    }
     if (region) OffsetRgn(region, -rect.left, -rect.top);
-    ground.CutTo(region);
-  });
+    ground->CutTo(region);
+  }
 }
 
 }  // namespace Win32

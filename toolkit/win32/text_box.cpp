@@ -1,7 +1,5 @@
 #include "controls.h"
 
-#include <commctrl.h>
-
 namespace Win32 {
 
 namespace {
@@ -32,7 +30,8 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
-  SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+  native_procedure_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
 }
 
 void TextBox::Place() {
@@ -40,11 +39,11 @@ void TextBox::Place() {
   TakeMargins(hwnd_);
 }
 
-LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                    DWORD_PTR self) {
+LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+  auto* const self = static_cast<TextBox*>(Native::Of(hwnd));
   LRESULT result = 0;
-  if (reinterpret_cast<TextBox*>(self)->OnMessage(message, wparam, lparam, result)) return result;
-  return DefSubclassProc(hwnd, message, wparam, lparam);
+  if (self->OnMessage(message, wparam, lparam, result)) return result;
+  return CallWindowProcW(self->native_procedure_, hwnd, message, wparam, lparam);
 }
 
 // Tells whether the message has been dealt with.
