@@ -27,10 +27,14 @@ build() {
 
 # Makes Wine's prefix: its own folder below build, so that nothing of the user's is touched. $1 is
 # "own" for the windows of the user's display, or the dots per inch of a desktop that Wine draws
-# itself, with title bars and a working focus on a display that has no window manager.
+# itself, with title bars and a working focus on a display that has no window manager. $2 is the
+# size of that desktop, if it is to be another than usual.
 prepare_wine() {
   export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
-  [ -f "$WINEPREFIX/ready" ] && return 0
+  if [ -f "$WINEPREFIX/ready" ]; then
+    size_desktop "${2:-1920x1200}"
+    return 0
+  fi
   rm -rf "$WINEPREFIX"
   wineboot --init >/dev/null 2>&1 || { say "Wine cannot make $WINEPREFIX" >&2; return 1; }
   # Debian's Wine does not look into the folder where Debian puts its fonts.
@@ -40,11 +44,15 @@ prepare_wine() {
   wine reg add "$replacements" /v 'Microsoft Sans Serif' /d 'Liberation Sans' /f
   if [ "$1" != own ]; then
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Tandem /f
-    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d 1920x1200 /f
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f
   fi
-  wineserver -w # the registry is written when the last program has ended
+  size_desktop "${2:-1920x1200}"
   touch "$WINEPREFIX/ready"
+}
+
+size_desktop() {
+  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d "$1" /f
+  wineserver -w # the registry is written when the last program has ended
 }
 
 # Starts a display for this shell and the programs it starts; it ends with the shell.
