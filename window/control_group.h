@@ -2,7 +2,7 @@
 // layout does not have, or a row of another kind than asked for, does not build.
 #pragma once
 
-#include <iterator>
+#include <cstddef>
 #include <string_view>
 
 #include "layout.h"
@@ -20,26 +20,27 @@ struct ControlGroup {
 void NoSuchRowInTheLayout();
 
 // The number of the row `name`, `index` of the layout, which must be of this kind.
-consteval int RowOf(std::u16string_view name, int index, Toolkit::Kind kind) {
-  for (int row = 0; row < static_cast<int>(std::size(Layout::Rows)); ++row) {
-    const Toolkit::StoredControl& stored = Layout::Rows[row];
+consteval std::size_t RowOf(std::u16string_view name, int index, Toolkit::Kind kind) {
+  std::size_t row = 0;
+  for (const Toolkit::StoredControl& stored : Layout::Rows) {
     if (stored.name == name && stored.index == index && stored.kind == kind) return row;
+    ++row;
   }
   NoSuchRowInTheLayout();
-  return -1;
+  return row;
 }
 
 // The row of a control of the class T.
 template <class T>
 struct ControlRow {
-  int row;
+  std::size_t row;
   consteval ControlRow(const char16_t* name) : row(RowOf(name, Toolkit::NoIndex, T::OwnKind)) {}
 };
 
 // The rows of a group, a ControlGroup.
 template <class Group>
 struct GroupRows {
-  int rows[Group::Count];
+  std::size_t rows[Group::Count];
   consteval GroupRows(const char16_t* name) {
     for (int index = 0; index < Group::Count; ++index) {
       rows[index] = RowOf(name, index, Group::Member::OwnKind);

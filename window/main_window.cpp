@@ -14,15 +14,15 @@ Controls NewControls(Desktop& desktop) {
 
 template <class T>
 T& Find(const Controls& controls, ControlRow<T> which) {
-  return static_cast<T&>(*controls[static_cast<std::size_t>(which.row)]);
+  return static_cast<T&>(*controls[which.row]);
 }
 
 template <class Group>
 Group FindGroup(const Controls& controls, GroupRows<Group> which) {
   Group group;
   for (int index = 0; index < Group::Count; ++index) {
-    Control& control = *controls[static_cast<std::size_t>(which.rows[index])];
-    group.members[index] = static_cast<typename Group::Member*>(&control);
+    Control* const control = controls[which.rows[index]].get();
+    group.members[index] = static_cast<typename Group::Member*>(control);
   }
   return group;
 }
