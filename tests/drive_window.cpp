@@ -46,6 +46,8 @@ TEST_F(RealWindow, StandsAsStored) {
   EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & (WS_THICKFRAME | WS_MAXIMIZEBOX), 0);
   EXPECT_EQ(TextOf(window), u"Tandem Karvel-Sorand Calendar, Version " PROGRAM_VERSION);
   EXPECT_EQ(Read(u"lblCopyright"), PROGRAM_COPYRIGHT);
+  EXPECT_EQ(Ask(u"txbYearCE1", EM_GETLIMITTEXT), 5);
+  EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
   for (const Toolkit::StoredControl& row : Layout::Rows) {
     RECT place = RectOf(Control(NameOf(row)));
     MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
@@ -99,8 +101,8 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
 }
 
 TEST_F(RealWindow, EnterAndEscape) {
-  // Enter converts when it comes up, and in the chosen row alone. That nothing has happened shows
-  // when the next key has.
+  // Enter converts when it comes up where it went down, and in the chosen row alone. That nothing
+  // has happened shows when the next key has.
   const Text pane = Read(u"txbOutput");
   GoTo(u"txbYearCE1");
   Press({VK_RETURN, VK_TAB});
@@ -110,8 +112,14 @@ TEST_F(RealWindow, EnterAndEscape) {
   Key(VK_RETURN, true);
   Press({VK_END});
   EXPECT_SEEN(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(4, 4));
-  EXPECT_EQ(Read(u"txbOutput"), pane);
+  GoTo(u"cboDay0");
+  GoTo(u"txbYearCE0");
   Key(VK_RETURN, false);
+  Press({VK_ESCAPE, VK_TAB});
+  EXPECT_SEEN(Focus(), u"cboDay0");
+  EXPECT_EQ(Read(u"txbOutput"), pane);
+  GoTo(u"txbYearCE0");
+  Press({VK_RETURN});
   EXPECT_SEEN(Read(u"txbYearCE1"), u"2012");
   Fill(u"txbYearCE0", u"");
   GoTo(u"cmdTBF0");
@@ -123,7 +131,7 @@ TEST_F(RealWindow, EnterAndEscape) {
   EXPECT_SEEN(Focus(), u"cmdClear");
 
   // The Enter that closes a box is held until the field behind has the focus again. Its repeats and
-  // its end there bring up no other box, nor does Escape.
+  // its end there bring up no other box.
   Fill(u"txbYearCE0", u"");
   GoTo(u"txbYearCE0");
   Press({VK_RETURN});
@@ -136,7 +144,7 @@ TEST_F(RealWindow, EnterAndEscape) {
   EXPECT_SEEN(Focus(), u"txbYearCE0");
   PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, LPARAM{KF_REPEAT} << 16 | 1);
   Key(VK_RETURN, false);
-  Press({VK_ESCAPE, VK_TAB});
+  Press({VK_TAB});
   EXPECT_SEEN(Focus(), u"cboDay0");
 }
 
@@ -199,6 +207,7 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   const HWND holder = NewWindow(0);
   EXPECT_SEEN(OpenClipboard(holder), TRUE);
   EmptyClipboard();
+  EXPECT_TRUE(SetClipboardData(CF_RIFF, GlobalAlloc(GMEM_MOVEABLE, 8)));
   CloseClipboard();
   GoTo(u"cmdCopy");
   Press({VK_SPACE});
@@ -206,6 +215,7 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   EXPECT_SEEN(OpenClipboard(holder), TRUE);
   const auto* copied = static_cast<const char16_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
   EXPECT_EQ(Text(copied ? copied : u""), u"\u00E4.\r\n\t");
+  EXPECT_FALSE(IsClipboardFormatAvailable(CF_RIFF));
   // While another program holds the clipboard.
   Press({VK_SPACE, VK_TAB});
   EXPECT_SEEN(Focus(), u"cmdQuit");
