@@ -25,16 +25,19 @@ build() {
   cmake --build --preset "$1" -- --quiet
 }
 
-# Makes Wine's prefix: its own folder below build, so that nothing of the user's is touched. $1 is
-# "own" for the windows of the user's display, or the dots per inch of a desktop that Wine draws
-# itself, with title bars and a working focus on a display that has no window manager. $2 is the
-# size of that desktop, if it is to be another than usual.
+# Makes Wine's prefix, if it is not there yet: its own folder below build, so that nothing of the
+# user's is touched. $1 is "own" for the windows of the user's display, or the dots per inch of a
+# desktop that Wine draws itself, with title bars and a working focus on a display that has no window
+# manager. $2 is the size of that desktop, if it is to be another than usual.
 prepare_wine() {
   export WINEPREFIX=$PWD/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
-  if [ -f "$WINEPREFIX/ready" ]; then
-    size_desktop "${2:-1920x1200}"
-    return 0
-  fi
+  [ -f "$WINEPREFIX/ready" ] || make_prefix "$1" || return 1
+  [ "$1" = own ] && return 0
+  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d "${2:-1920x1200}" /f
+  wineserver -w # the registry is written when the last program has ended
+}
+
+make_prefix() {
   rm -rf "$WINEPREFIX"
   wineboot --init >/dev/null 2>&1 || { say "Wine cannot make $WINEPREFIX" >&2; return 1; }
   # Debian's Wine does not look into the folder where Debian puts its fonts.
@@ -46,13 +49,8 @@ prepare_wine() {
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Tandem /f
     wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$1" /f
   fi
-  size_desktop "${2:-1920x1200}"
+  wineserver -w
   touch "$WINEPREFIX/ready"
-}
-
-size_desktop() {
-  wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Tandem /d "$1" /f
-  wineserver -w # the registry is written when the last program has ended
 }
 
 # Starts a display for this shell and the programs it starts; it ends with the shell.
