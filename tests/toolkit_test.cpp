@@ -100,6 +100,7 @@ TEST_F(Toolkits, KeysCountWhereTheyWentDown) {
       {"a press", {Down, Up}, 1},
       {"a key held down", {Down, Repeat, Repeat, Up}, 1},
       {"a key-up without its key-down", {Up}, 0},
+      {"a second key-up", {Down, Up, Up}, 1},
       {"the focus was elsewhere meanwhile", {Down, FocusLost, Up}, 0},
       {"the key-up of another key", {OtherDown, Up}, 0},
   };
