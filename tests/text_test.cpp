@@ -15,6 +15,8 @@ TEST(Text, CharactersAndNumbers) {
   EXPECT_EQ(CountOccurrences(u"ABA", u"A"), 2);
   EXPECT_EQ(CountOccurrences(u"AAA", u"AA"), 1);
   EXPECT_EQ(CountOccurrences(u"A", u""), 0);
+  EXPECT_EQ(DecimalValue(u"12a4"), 12);
   EXPECT_EQ(DecimalValue(u"2147483648"), 2147483647);
+  EXPECT_EQ(DecimalValue(u"18446744073709551621"), 2147483647);  // 5 in 64 bits
   EXPECT_EQ(DecimalValue(u"-2147483649"), -2147483647 - 1);
 }
