@@ -11,7 +11,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -125,10 +124,6 @@ struct Tandem {
     return SendMessageW(Control(control), message, 0, 0);
   }
   Text Read(View control) const { return TextOf(Control(control)); }
-  bool IsEnabled(View button) const {
-    Ask(button, WM_NULL);
-    return IsWindowEnabled(Control(button)) != FALSE;
-  }
 
   // Where the next key goes, all of it from one look at the thread in front: the name of a control,
   // AtBox while a message box is in front and its button has the focus, or nothing.
