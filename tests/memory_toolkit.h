@@ -9,10 +9,7 @@
 
 namespace Memory {
 
-struct Box {
-  Text text, title;
-  Toolkit::Icon icon;
-};
+using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title
 
 struct Screen {
   bool is_on = false;                       // the one window has been brought up
@@ -90,6 +87,10 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   int milliseconds = 0;  // between two ticks
   bool has_ended = false;
 
+  template <class T>
+  T& The(View name) const {
+    return dynamic_cast<T&>(*controls.at(Text(name)));
+  }
   Toolkit::Window& MainWindow() override { return *this; }
   Toolkit::Timer& MainTimer() override { return *this; }
   std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override {
@@ -106,7 +107,7 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
     EXPECT_FALSE(box.has_value()) << "two boxes at once";
-    box = Box{Text(text), Text(title), icon};
+    box = Box(text, title, icon);
   }
   void SetClipboardText(View text) override { clipboard = text; }
   void EndProgram() override { has_ended = true; }
