@@ -37,11 +37,7 @@ TEST_F(Dates, EveryDayOfEveryYear) {
   }
 }
 
-TEST_F(Dates, OtherCalendarsAndFarDays) {
-  EuroDate far{5874898, 6, 4, u'G', 0, 1};
-  EuroDateToJdn(far);
-  EXPECT_EQ(far.valid, 0);
-  EXPECT_EQ(far.jdn, NoSuchDayJdn);
+TEST_F(Dates, OtherCalendars) {
   EuroDate date{1, 2, 3, u'J', 2455318, 1};
   JdnToEuroDate(date);
   EuroDateToJdn(date);
@@ -67,7 +63,7 @@ TEST_F(Dates, OrdersSignsAndThousands) {
   EXPECT_EQ(DateText({9999, 1, 2, u'G', 0, 1}, DateOrderYMD, u"", u","), u"99990102");
   EXPECT_EQ(DateText({-9999, 1, 2, u'G', 0, 1}, DateOrderYMD, u"-", u","), u"-9999-01-02");
   EXPECT_EQ(DateText({10000, 1, 2, u'G', 0, 1}, DateOrderMDY, u"-", u".x"), u"01-02-10.000");
+  EXPECT_EQ(DateText({10000, 1, 2, u'G', 0, 1}, DateOrderYMD, u"-", u""), u"10000-01-02");
   EXPECT_EQ(DateText({-10000, 1, 2, u'G', 0, 1}, DateOrderYMD, u"-", u","), u"-10,000-01-02");
-  EXPECT_EQ(DateText({-123456, 1, 2, u'G', 0, 1}, DateOrderDMY, u"-", u""), u"02-01-(-123456)");
-  EXPECT_EQ(SeparateThousands(u"12345678901234567890", u","), u"12,345,678,901,234,");  // 20 bytes
+  EXPECT_EQ(DateText({-123456, 1, 2, u'G', 0, 1}, DateOrderDMY, u"-", u","), u"02-01-(-123,456)");
 }

@@ -18,8 +18,6 @@ TEST_F(Lunar, EveryDayThereAndBack) {
   std::int32_t jdn = 7333;
   LksDate date{};
   LksDate there{};
-  there.Label.reserve(100);
-  const char16_t* const memory = there.Label.data();
   for (date.GMet = 1; date.GMet <= 2; ++date.GMet) {
     date.MetNum = 0;
     for (const char16_t met_type : cycles) {
@@ -34,6 +32,7 @@ TEST_F(Lunar, EveryDayThereAndBack) {
           date.MonthType = is_long ? u'A' : u'B';
           for (date.Day = 1; date.Day <= (is_long ? 30 : 29); ++date.Day) {
             date.Valid = LksFalse;
+            ASSERT_FALSE(SameLksDate(there, date)) << jdn;  // yesterday
             ASSERT_EQ(JdnToLksDate(jdn, there, true), 0) << jdn;
             ASSERT_EQ(LksDateToJdn(date), jdn) << testing::PrintToString(date.Label);
             ASSERT_EQ(there.Label, date.Label) << jdn;
@@ -48,7 +47,6 @@ TEST_F(Lunar, EveryDayThereAndBack) {
     }
   }
   EXPECT_EQ(jdn, 4740141);
-  EXPECT_EQ(there.Label.data(), memory);  // a record that is used again allocates nothing
 }
 
 TEST_F(Lunar, OfAllCombinationsExactlyTheDaysAreAccepted) {
@@ -75,15 +73,12 @@ TEST_F(Lunar, DaysOutsideTheCalendar) {
   EXPECT_EQ(date.Jdn, 7332);
   EXPECT_EQ(date.Valid, LksFalse);
   EXPECT_EQ(date.Label, u"");
-  EXPECT_EQ(date.MetNum, 248);  // kept from the day that there is
 }
 
 TEST_F(Lunar, StatusOfDates) {
   // The day stays -1 before the last check.
   const std::tuple<LksDate, std::int16_t, std::int32_t> rows[] = {
-      {{2, u"A", 0, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
       {{2, u"A", 342, u"A", 1, u"A", 1, 1, -1, 1, u""}, -3, -1},
-      {{2, u"A", 2, u"A", 1, u"A", 1, 1, -1, 1, u""}, -4, -1},
       {{2, u"A", 1, u"A", 1, u"A", 1, 1, -1, 1, u""}, -5, -1},
       {{2, u"A", 1, u"", 20, u"A", 1, 1, -1, 1, u""}, -5, -1},
       {{2, u"A", 1, u"", 0, u"A", 1, 1, -1, 1, u""}, -5, -1},
@@ -104,11 +99,6 @@ TEST_F(Lunar, StatusOfDates) {
     EXPECT_EQ(date.Jdn, jdn);
     EXPECT_EQ(date.Valid, LksFalse);
   }
-}
-
-TEST_F(Lunar, Label) {
-  EXPECT_EQ(LksDateLabel({2, u"C", 212, u"B", 1, u"B", 2, 9, 0, 0, u""}),
-            u"GMet-2 MC-212 LYB-1 LB-2 9 day (Tuesday) 9/29 gibbous moon (waxing)");
 }
 
 TEST_F(Lunar, WeekdaysAndPhases) {
