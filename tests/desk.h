@@ -1,5 +1,5 @@
 // A running tandem.exe, seen and used from outside as any program on the desktop can: its windows
-// are found, their texts read, keys pressed and the mouse moved.
+// are found, their texts read, keys pressed.
 //
 // What the program does with a key shows only some time later, so every expectation waits, and for
 // the final state: never for "no longer the old one", which may be the state in between. A message
@@ -31,8 +31,6 @@ template <class See, class Wanted>
 auto Await(See see, const Wanted& wanted) {
   auto seen = see();
   for (const DWORD start = GetTickCount(); seen != wanted && GetTickCount() - start < Patience;) {
-    MSG message;  // for windows that the test has opened itself
-    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
     Sleep(2);
     seen = see();
   }
@@ -46,44 +44,15 @@ inline Text TextOf(HWND window) {
   return text;
 }
 
-inline RECT RectOf(HWND window) {
-  RECT rect = {};
-  GetWindowRect(window, &rect);
-  return rect;
-}
-
 inline void Key(WORD key, bool down) {
-  INPUT input = {};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  // The keys beside the number block, not those on it.
-  if (key >= VK_PRIOR && key <= VK_DELETE) input.ki.dwFlags = KEYEVENTF_EXTENDEDKEY;
-  if (!down) input.ki.dwFlags |= KEYEVENTF_KEYUP;
-  SendInput(1, &input, sizeof input);
+  keybd_event(static_cast<BYTE>(key), 0, down ? 0 : KEYEVENTF_KEYUP, 0);
 }
 
-// Presses and releases one key after the other; Shift, Ctrl and Alt together with the next one.
+// Presses and releases one key after the other.
 inline void Press(const std::vector<WORD>& keys) {
-  WORD held = 0;
   for (const WORD key : keys) {
-    const bool stays_down = key == VK_SHIFT || key == VK_CONTROL || key == VK_MENU;
     Key(key, true);
-    if (!stays_down) Key(key, false);
-    if (held != 0) Key(held, false);
-    held = stays_down ? key : WORD{0};
-  }
-}
-
-// Moves the mouse, and presses its button there.
-inline void Mouse(int x, int y, bool click) {
-  INPUT input = {};
-  input.type = INPUT_MOUSE;
-  input.mi.dx = MulDiv(x, 65536, GetSystemMetrics(SM_CXSCREEN)) + 1;
-  input.mi.dy = MulDiv(y, 65536, GetSystemMetrics(SM_CYSCREEN)) + 1;
-  for (const DWORD event :
-       std::initializer_list<DWORD>{0, MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP}) {
-    input.mi.dwFlags = event | MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE;
-    if (event == 0 || click) SendInput(1, &input, sizeof input);
+    Key(key, false);
   }
 }
 
@@ -93,7 +62,8 @@ struct Tandem {
 
   Tandem() {  // starts the program, which lies beside the test
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
-    Mouse(0, 0, false);  // out of the way: an open list follows the mouse that lies over it
+    // The mouse out of the way: an open list follows it where it lies over that.
+    mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE, 0, 0, 0, 0);
     wchar_t command[] = L"tandem.exe";
     STARTUPINFOW start = {};
     start.cb = sizeof start;
@@ -107,13 +77,7 @@ struct Tandem {
   }
   ~Tandem() {
     TerminateProcess(process.hProcess, 99);
-    ExitCode();
-  }
-  int ExitCode() const {  // STILL_ACTIVE if the program does not end
-    DWORD code = 0;
     WaitForSingleObject(process.hProcess, Patience);
-    GetExitCodeProcess(process.hProcess, &code);
-    return static_cast<int>(code);
   }
 
   HWND Control(View name) const {
@@ -151,9 +115,6 @@ struct Tandem {
   }
   void Fill(View box, View text) const {  // as a program does, without keys
     SendMessageW(Control(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Text(text).c_str()));
-  }
-  void Tick() const {  // the timer's message, which comes back when the tick is over
-    SendMessageW(window, WM_TIMER, Win32::TimerId, 0);
   }
 };
 
