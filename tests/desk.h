@@ -24,13 +24,15 @@
 
 namespace Desk {
 
-constexpr DWORD Patience = 30000;  // milliseconds; far more than anything takes
+// Looks, 2 ms and more apart; far more than anything takes. Time itself is no measure: after a
+// while in which the whole machine stood still nothing has had its chance yet.
+constexpr int Patience = 10000;
 
 // Looks until `see` gives `wanted`, and gives what it saw last.
 template <class See, class Wanted>
 auto Await(See see, const Wanted& wanted) {
   auto seen = see();
-  for (const DWORD start = GetTickCount(); seen != wanted && GetTickCount() - start < Patience;) {
+  for (int looks = 1; seen != wanted && looks < Patience; ++looks) {
     Sleep(2);
     seen = see();
   }
@@ -77,7 +79,7 @@ struct Tandem {
   }
   ~Tandem() {
     TerminateProcess(process.hProcess, 99);
-    WaitForSingleObject(process.hProcess, Patience);
+    WaitForSingleObject(process.hProcess, INFINITE);
   }
 
   HWND Control(View name) const {

@@ -202,8 +202,10 @@ TEST(RealProgram, AsksTheSystemForTheDate) {
 
 TEST_F(RealWindow, EndsWithCode0) {
   PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);  // as Alt+F4 and the close button do
-  EXPECT_EQ(WaitForSingleObject(process.hProcess, Patience), WAIT_OBJECT_0);
-  DWORD code = STILL_ACTIVE;
-  GetExitCodeProcess(process.hProcess, &code);
-  EXPECT_EQ(code, 0u);
+  const auto exit_code = [this] {
+    DWORD code = STILL_ACTIVE;
+    GetExitCodeProcess(process.hProcess, &code);
+    return code;
+  };
+  EXPECT_SEEN(exit_code(), 0u);
 }
