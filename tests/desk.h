@@ -1,5 +1,5 @@
 // A running tandem.exe, seen and used from outside as any program on the desktop can: its windows
-// are found, their texts read, keys pressed.
+// are found, their texts read and keys pressed.
 //
 // What the program does with a key shows only some time later, so every expectation waits, and for
 // the final state: never for "no longer the old one", which may be the state in between. A message
@@ -11,7 +11,6 @@
 #include <windows.h>
 
 #include <algorithm>
-#include <stdexcept>
 #include <vector>
 
 #include "control_names.h"
@@ -58,15 +57,16 @@ inline void Press(const std::vector<WORD>& keys) {
   }
 }
 
-struct Tandem {
+// Each test starts the program anew.
+struct RealWindow : testing::Test {
   PROCESS_INFORMATION process = {};
   HWND window = nullptr;
 
-  Tandem() {  // starts the program, which lies beside the test
+  void SetUp() override {
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
     // The mouse out of the way: an open list follows it where it lies over that.
     mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE, 0, 0, 0, 0);
-    wchar_t command[] = L"tandem.exe";
+    wchar_t command[] = L"tandem.exe";  // which lies beside the test, wherever that is run from
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
@@ -75,9 +75,9 @@ struct Tandem {
       window = FindWindowW(Win32::WindowClass, nullptr);
       return !Read(u"txbOutput").empty() && Focus() == u"cmdConvert";
     };
-    if (!Await(first_screen, true)) throw std::runtime_error("tandem.exe shows no first screen");
+    ASSERT_TRUE(Await(first_screen, true)) << "tandem.exe shows no first screen";
   }
-  ~Tandem() {
+  void TearDown() override {
     TerminateProcess(process.hProcess, 99);
     WaitForSingleObject(process.hProcess, INFINITE);
   }

@@ -9,8 +9,6 @@
 using namespace Desk;
 using Toolkit::Kind;
 
-struct RealWindow : testing::Test, Tandem {};
-
 // Also on a desktop that is too small for it: then it is drawn as large as it can be there.
 TEST_F(RealWindow, StandsAsStored) {
   RECT outer, client, work;
@@ -75,8 +73,8 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
 }
 
 TEST_F(RealWindow, EnterAndEscape) {
-  // Enter converts in the chosen row alone, and Escape does nothing anywhere. That nothing has
-  // happened shows when the next key has.
+  // Enter converts in the chosen row alone, and Escape does nothing. That nothing has happened
+  // shows when the next key has.
   const Text pane = Read(u"txbOutput");
   GoTo(u"txbYearCE1");
   Press({VK_RETURN, VK_ESCAPE, VK_TAB});
