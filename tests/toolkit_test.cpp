@@ -51,9 +51,14 @@ TEST_F(Toolkits, AValueThatIsThereDoesNotReachThePlatform) {
 TEST_F(Toolkits, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
   using Stretch = std::pair<int, int>;
   const std::tuple<View, Stretch, View, Stretch> rows[] = {
-      {u"2026", {1, 3}, u"2026", {1, 3}},    {u"  2026 ", {3, 5}, u"2026", {1, 3}},
-      {u"  2026 ", {0, 7}, u"2026", {0, 4}}, {u"20 26  ", {2, 2}, u"20 26", {2, 2}},
-      {u"   ", {1, 2}, u"", {0, 0}},         {u"\t5", {2, 2}, u"\t5", {2, 2}},
+      // clang-format off
+      {u"2026", {1, 3}, u"2026", {1, 3}},
+      {u"  2026 ", {3, 5}, u"2026", {1, 3}},
+      {u"  2026 ", {0, 7}, u"2026", {0, 4}},
+      {u"20 26  ", {2, 2}, u"20 26", {2, 2}},
+      {u"   ", {1, 2}, u"", {0, 0}},
+      {u"\t5", {2, 2}, u"\t5", {2, 2}},
+      // clang-format on
   };
   for (const auto& [before, selected, after, still_selected] : rows) {
     SCOPED_TRACE(testing::PrintToString(before));
@@ -71,6 +76,7 @@ TEST_F(Toolkits, KeysCountWhereTheyWentDown) {
       {"a press", {Down, Up}, 1},
       {"a key held down", {Down, Repeat, Repeat, Up}, 1},
       {"a key-up without its key-down", {Up}, 0},
+      {"a key that went down elsewhere", {Repeat, Up}, 0},
       {"a second key-up", {Down, Up, Up}, 1},
       {"the focus was elsewhere meanwhile", {Down, FocusLost, Up}, 0},
   };
