@@ -10,6 +10,7 @@ namespace {
 
 constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
 constexpr COLORREF Black = RGB(0, 0, 0);
+constexpr UINT_PTR TimerId = 1;
 
 // The icon of the program, in the size that the system wants for one of its places.
 HICON ProgramIcon(int width, int height) {
