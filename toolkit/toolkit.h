@@ -278,7 +278,8 @@ class Desktop {
   // Shows a box with an OK button and returns when the user has closed it.
   virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
 
-  // Empties the clipboard, then puts `text` on it. If that cannot be done it stays as it is.
+  // Empties the clipboard, then puts `text` on it. While another program holds the clipboard that
+  // cannot be done and it stays as it is. A failure is told to the user by a sound alone.
   virtual void SetClipboardText(std::u16string_view text) = 0;
 
   // Takes the window off the screen and ends the program with exit code 0, without a question.

@@ -31,14 +31,13 @@ HGLOBAL CopyForClipboard(std::u16string_view text) {
 
 void ReplaceClipboard(HWND owner, std::u16string_view text) {
   const HGLOBAL memory = CopyForClipboard(text);
-  if (!memory || !Open(owner)) {
-    GlobalFree(memory);
-    MessageBeep(MB_ICONWARNING);
-    return;
-  }
-  EmptyClipboard();
-  if (!SetClipboardData(CF_UNICODETEXT, memory)) GlobalFree(memory);
-  CloseClipboard();
+  const bool is_open = memory && Open(owner);
+  // What it holds is the clipboard's own; what it does not take is still ours.
+  const bool is_taken = is_open && EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, memory);
+  if (is_open) CloseClipboard();
+  if (is_taken) return;
+  GlobalFree(memory);
+  MessageBeep(MB_ICONWARNING);
 }
 
 }  // namespace Win32
