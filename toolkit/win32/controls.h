@@ -58,12 +58,13 @@ class List : public Toolkit::List, public Native {
   void ApplyNewItem(const std::u16string& item) override;
   void ApplyClear() override;
   void ApplyListIndex(int index) override;
-  void Select(int index);
+  void ShowWhatCounts();
+  void TakeMarks();
 
-  int chosen_ = -1;             // the last choice, whether the user's or the program's
-  bool open_ = false;           // the list is dropped down
-  bool accepted_ = true;        // the list was closed with a choice, not left with Escape
-  std::u16string closed_text_;  // what the line held before the list was opened
+  int chosen_ = -1;            // the last choice, whether the user's or the program's
+  bool open_ = false;          // the list is dropped down
+  bool accepted_ = true;       // the list was closed with a choice, not left with Escape
+  std::u16string typed_text_;  // what the line reads while nothing is chosen
 };
 
 class OptionButton : public Toolkit::OptionButton, public Native {

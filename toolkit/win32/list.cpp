@@ -17,12 +17,13 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 }  // namespace
 
 List::List(NativeWindow& window, const Toolkit::StoredControl& row)
-    : Native(window, row, StyleOf(row)) {
+    : Native(window, row, StyleOf(row)), typed_text_(row.text) {
   if (row.properties.typed_in) SetWindowTextW(hwnd_, Wide(row.text.data()));
   Send(CB_SETMINVISIBLE, ItemsShown);
 }
 
 void List::Place() {
+  const LRESULT marks = Send(CB_GETEDITSEL);
   Native::Place();
   const int height = Pixels(row_.height, window_.Dpi());
   WidenForArrow(height);
@@ -37,9 +38,12 @@ void List::Place() {
     text_height += missing;
     Send(CB_SETITEMHEIGHT, ClosedPart, text_height);
   }
-  if (row_.properties.typed_in) TakeMargins(GetWindow(hwnd_, GW_CHILD));
-  // Placing a list selects the text in its line.
-  Send(CB_SETEDITSEL, 0, 0);
+  if (!row_.properties.typed_in) return;
+  TakeMargins(GetWindow(hwnd_, GW_CHILD));
+  // A list that is resized or gets another font completes the text in its line to an item and marks
+  // it.
+  if (!open_) ShowWhatCounts();
+  if (HoldsFocus()) Send(CB_SETEDITSEL, 0, marks);
 }
 
 // The arrow is as wide as the scroll bars of the monitor. Where the window is drawn smaller than
@@ -61,10 +65,12 @@ void List::WidenForArrow(int height) {
   CutTo(CreateRectRgn(0, 0, width, height));
 }
 
-// A list that is browsed still holds the last choice, and typed text is none.
+// A list that is browsed still holds the last choice; in a closed one the item counts that the line
+// reads.
 int List::ListIndex() const {
   if (open_ || chosen_ < 0) return chosen_;
-  return static_cast<int>(Send(CB_GETCURSEL));
+  const auto now = static_cast<int>(Send(CB_GETCURSEL));
+  return TextOf(hwnd_) == Item(now) ? now : -1;
 }
 
 void List::Notified(WORD code) {
@@ -72,7 +78,9 @@ void List::Notified(WORD code) {
     case CBN_DROPDOWN:
       open_ = true;
       accepted_ = true;
-      closed_text_ = TextOf(hwnd_);
+      break;
+    case CBN_SELENDOK:
+      accepted_ = true;
       break;
     case CBN_SELENDCANCEL:
       // A closed list says so, too, when it loses the focus.
@@ -90,14 +98,10 @@ void List::Notified(WORD code) {
       break;
     case CBN_EDITCHANGE:
       chosen_ = -1;
-      closed_text_ = TextOf(hwnd_);
+      typed_text_ = TextOf(hwnd_);
       break;
     case CBN_KILLFOCUS:
-      // A line to type in shows its selection also while it does not have the focus.
-      if (row_.properties.typed_in) {
-        const WORD end = HIWORD(Send(CB_GETEDITSEL));
-        Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
-      }
+      TakeMarks();
       break;
     default:
       break;
@@ -111,20 +115,30 @@ void List::Settled() {
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
   const bool is_choice = accepted_ && now >= 0 && now != chosen_;
   accepted_ = true;
-  if (is_choice) {
-    Select(now);
-    NoteChosen();
-    return;
-  }
-  if (now != chosen_) Select(chosen_);
-  if (chosen_ < 0 && TextOf(hwnd_) != closed_text_) SetWindowTextW(hwnd_, Wide(closed_text_));
+  if (is_choice) chosen_ = now;
+  ShowWhatCounts();
+  if (is_choice) NoteChosen();
 }
 
-// The choice is kept last: should the platform report the line's new text as typed, it would be
-// lost.
-void List::Select(int index) {
-  Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+// A native list that is left without a choice may keep the item that was browsed last, or take back
+// its index and not its text; and it completes what was typed to an item. All of that goes.
+void List::ShowWhatCounts() {
+  const int index = chosen_;
+  const std::u16string text(index < 0 ? typed_text_ : Item(index));
+  if (Send(CB_GETCURSEL) != index || (index >= 0 && TextOf(hwnd_) != text)) {
+    Send(CB_SETCURSEL, static_cast<WPARAM>(index));
+  }
+  if (index < 0 && TextOf(hwnd_) != text) SetWindowTextW(hwnd_, Wide(text));
+  // Last: should the platform report the line's new text as typed, the choice would be lost.
   chosen_ = index;
+  if (!HoldsFocus()) TakeMarks();
+}
+
+// A line shows its marks also while it does not have the focus.
+void List::TakeMarks() {
+  if (!row_.properties.typed_in) return;
+  const WORD end = HIWORD(Send(CB_GETEDITSEL));
+  Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
 }
 
 void List::ApplyNewItem(const std::u16string& item) {
@@ -134,11 +148,14 @@ void List::ApplyNewItem(const std::u16string& item) {
 void List::ApplyClear() {
   Send(CB_RESETCONTENT);
   chosen_ = -1;
+  typed_text_.clear();
 }
 
 void List::ApplyListIndex(int index) {
   PaintLater();
-  Select(index);
+  chosen_ = index;
+  typed_text_.clear();
+  ShowWhatCounts();
 }
 
 }  // namespace Win32

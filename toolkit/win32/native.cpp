@@ -70,6 +70,11 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
+bool Native::HoldsFocus() const {
+  const HWND focus = GetFocus();
+  return focus == hwnd_ || IsChild(hwnd_, focus);
+}
+
 RECT Native::StoredPlace() const {
   const int dpi = window_.Dpi();
   const int left = Pixels(row_.container.left + row_.left, dpi);

@@ -65,6 +65,7 @@ class Native {
   }
 
   Toolkit::Kind Kind() const { return row_.kind; }
+  bool HoldsFocus() const;  // also when a part of it has the focus, such as the line of a list
 
   RECT StoredPlace() const;  // where its row has the control, in the pixels of the client area
   virtual void Place();      // puts it there, and gives it its font
