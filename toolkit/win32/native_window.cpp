@@ -78,6 +78,7 @@ int NativeWindow::RunLoop() {
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
+    if (IsWheelOfAnother(message)) continue;
     if (!IsDialogMessageW(hwnd_, &message)) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
@@ -108,6 +109,15 @@ void NativeWindow::SetFocusTo(HWND control) {
   if (IsActive()) {
     SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
   }
+}
+
+// The wheel goes to the window under the pointer. A list that does not have the focus must not take
+// it: the choice would change, and the focus move, while the user is elsewhere.
+bool NativeWindow::IsWheelOfAnother(const MSG& message) const {
+  if (message.message != WM_MOUSEWHEEL || !IsChild(hwnd_, message.hwnd)) return false;
+  const HWND parent = GetParent(message.hwnd);  // a list, if it is the line in that
+  const Native* const native = Native::Of(parent == hwnd_ ? message.hwnd : parent);
+  return native && native->Kind() == Toolkit::Kind::List && !native->HoldsFocus();
 }
 
 void NativeWindow::RememberFocus() {

@@ -33,9 +33,13 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   void ApplyBackColor() override;
 
   bool IsActive() const { return GetActiveWindow() == hwnd_; }
+  bool IsWheelOfAnother(const MSG& message) const;
   void RememberFocus();
   void Activated();
+  void GiveFocusBack();
+  void FrameDefaultButton(HWND button);
   void Command(WORD id, WORD code, HWND control);
+  void ShowIcons();
   HBRUSH PaintGround(HDC dc, HWND control) const;
 
   // Where the window stands and its controls in it: placement.cpp.
