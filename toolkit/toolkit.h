@@ -30,8 +30,9 @@
 //    ListIndex says never differ otherwise.
 //  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
 //    control that has it when the window comes back.
-//  - All events come on the thread that made the Desktop, one after the other; a message box lets
-//    the timer tick on.
+//  - All events come on the thread that made the Desktop, one after the other: each handler runs to
+//    its end. While it shows a message box there is no tick; the next one comes within a second of
+//    the box's end.
 //  - The main loop is the platform's own, and so is the local date: the program's entry point runs
 //    the one and hands the other to the form's calendar side.
 #pragma once

@@ -187,7 +187,8 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       PlaceControls();
       return 0;
     case WM_TIMER:
-      if (wparam == TimerId && Tick) Tick();
+      // A message box disables the window: the command that shows it is not done with yet.
+      if (wparam == TimerId && Tick && IsWindowEnabled(hwnd_)) Tick();
       return 0;
     case WM_CLOSE:
       if (Unload) Unload();
