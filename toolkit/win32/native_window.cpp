@@ -135,20 +135,23 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_ACTIVATE:
       // The dialog manager would give the focus back to a control that may have turned disabled in
-      // the meantime; the focus is then on nothing.
-      if (LOWORD(wparam) != WA_INACTIVE) Activated();
+      // the meantime; the focus is then on nothing. What else it does is done here, too.
+      if (LOWORD(wparam) != WA_INACTIVE) {
+        Activated();
+      } else {
+        RememberFocus();
+        FrameDefaultButton(nullptr);
+      }
       return 0;
     case WM_SETFOCUS:
-      if (remembered_focus_) ::SetFocus(remembered_focus_);
+      if (remembered_focus_) GiveFocusBack();
       return 0;
     case WM_SIZE:
       // There is no button for it, but a shortcut or another program can ask for it.
       if (wparam == SIZE_MAXIMIZED) ShowWindow(hwnd_, SW_RESTORE);
       if (wparam == SIZE_RESTORED) Fit();
       // A minimised window could not give the focus to a control.
-      if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) {
-        ::SetFocus(remembered_focus_);
-      }
+      if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) GiveFocusBack();
       break;
     case WM_GETMINMAXINFO:
       // The system would cut the window to the size of the screen.
@@ -218,8 +221,26 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 
 void NativeWindow::Activated() {
   if (!remembered_focus_) remembered_focus_ = GetNextDlgTabItem(hwnd_, nullptr, FALSE);
-  ::SetFocus(remembered_focus_);
+  GiveFocusBack();
   NoteActivated();
+}
+
+void NativeWindow::GiveFocusBack() {
+  ::SetFocus(remembered_focus_);
+  FrameDefaultButton(remembered_focus_);
+}
+
+// Gives this button alone the frame of the default one; none gets it where this is no button.
+void NativeWindow::FrameDefaultButton(HWND button) {
+  for (HWND child = GetWindow(hwnd_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
+    const LRESULT code = SendMessageW(child, WM_GETDLGCODE, 0, 0);
+    if (child == button && (code & DLGC_UNDEFPUSHBUTTON)) {
+      SendMessageW(child, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
+    }
+    if (child != button && (code & DLGC_DEFPUSHBUTTON)) {
+      SendMessageW(child, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
+    }
+  }
 }
 
 void NativeWindow::Command(WORD id, WORD code, HWND control) {
