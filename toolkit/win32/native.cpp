@@ -20,15 +20,22 @@ const char16_t* FaceAt(std::u16string_view face, int dpi) {
 // else sees this one: it is not visible, and it has no number of its own.
 void PutNameBefore(HWND window, std::u16string_view name) {
   constexpr INT_PTR NoNumber = 0xFFFF;
-  CreateWindowExW(0, L"STATIC", Wide(name.data()), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
-                  reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr);
+  Made(CreateWindowExW(0, L"STATIC", Wide(name.data()), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
+                       reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr));
 }
 
 }  // namespace
 
+HWND Made(HWND window) {
+  if (window) return window;
+  MessageBoxW(nullptr, L"Tandem cannot make its window.", L"Tandem", MB_OK | MB_ICONERROR);
+  ExitProcess(1);
+}
+
 int DpiOf(HWND window) {
-  // Windows before 10 has one DPI for everything.
-  static const auto get_dpi = UserFunction<UINT(WINAPI*)(HWND)>("GetDpiForWindow");
+  // Windows 7 and 8 have one DPI for everything. Windows 8.1 has one for each monitor and tells it
+  // when the window comes to another than the main one.
+  static const auto get_dpi = SystemFunction<UINT(WINAPI*)(HWND)>(L"user32.dll", "GetDpiForWindow");
   if (get_dpi) return static_cast<int>(get_dpi(window));
   const HDC screen = GetDC(nullptr);
   const int dpi = GetDeviceCaps(screen, LOGPIXELSX);
@@ -62,11 +69,11 @@ Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style st
     : window_(window), row_(row) {
   if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);
   const RECT place = StoredPlace();
-  hwnd_ = CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
-                          WS_CHILD | WS_VISIBLE | style.style, place.left, place.top,
-                          place.right - place.left, place.bottom - place.top, window.Hwnd(),
-                          reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),
-                          GetModuleHandleW(nullptr), nullptr);
+  hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
+                               WS_CHILD | WS_VISIBLE | style.style, place.left, place.top,
+                               place.right - place.left, place.bottom - place.top, window.Hwnd(),
+                               reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),
+                               GetModuleHandleW(nullptr), nullptr));
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 

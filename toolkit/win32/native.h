@@ -22,12 +22,18 @@ inline int Pixels(int twips, int dpi) {
   return MulDiv(twips, dpi, 1440);
 }
 
-// A function of user32 that older versions of Windows do not have; null where it is missing.
+// A function of a library in the system's own folder; null where it is missing, as on older
+// versions of Windows. A library of that name beside the program is not looked at.
 template <class Function>
-Function UserFunction(const char* name) {
-  return reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), name)));
+Function SystemFunction(const wchar_t* library, const char* name) {
+  const HMODULE loaded = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+  return loaded ? reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(loaded, name)))
+                : nullptr;
 }
+
+// Gives back the window that was to be made. If it could not be made there is no program: it says
+// so and ends with exit code 1.
+HWND Made(HWND window);
 
 // The dots per inch that the window is drawn with.
 int DpiOf(HWND window);

@@ -55,12 +55,14 @@ NativeWindow::NativeWindow(int client_width, int client_height)
     WORD caption;
   } dialog = {{WindowStyle, 0, 0, 0, 0, 0, 0}, 0, {}, 0};
   std::copy(std::begin(WindowClass), std::end(WindowClass), dialog.class_name);
-  hwnd_ = CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0);
+  hwnd_ =
+      Made(CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0));
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The dialog manager would scale the controls by itself, from rounded pixels.
   using Change = BOOL(WINAPI*)(HWND, UINT, UINT);
   constexpr UINT DisableAll = 1;
-  if (const auto set_behavior = UserFunction<Change>("SetDialogDpiChangeBehavior")) {
+  if (const auto set_behavior =
+          SystemFunction<Change>(L"user32.dll", "SetDialogDpiChangeBehavior")) {
     set_behavior(hwnd_, DisableAll, DisableAll);
   }
   monitor_dpi_ = DpiOf(hwnd_);
