@@ -74,8 +74,9 @@ class OptionButton : public Toolkit::OptionButton, public Native {
 
  private:
   void Place() override;
-  void FollowTheme() override;
+  void FollowTheme();
   void Notified(WORD code) override;
+  void Settled() override;
   const Toolkit::Coloured* Colours() const override { return this; }
   void ApplyBackColor() override;
   void ApplyValue() override;

@@ -26,11 +26,19 @@ void OptionButton::FollowTheme() {
   const bool plain = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
   if (plain == is_plain_) return;
   is_plain_ = plain;
-  SetWindowTheme(hwnd_, plain ? L"" : nullptr, plain ? L"" : nullptr);
+  using SetTheme = HRESULT(WINAPI*)(HWND, const wchar_t*, const wchar_t*);
+  static const auto set_theme = SystemFunction<SetTheme>(L"uxtheme.dll", "SetWindowTheme");
+  if (set_theme) set_theme(hwnd_, plain ? L"" : nullptr, plain ? L"" : nullptr);
 }
 
+// A button that gets the focus may say that it was clicked before the change of focus is done with,
+// in which the focus must not move on; and some say so without being chosen.
 void OptionButton::Notified(WORD code) {
-  if (code == BN_CLICKED) NoteChosen();
+  if (code == BN_CLICKED) PostSettle();
+}
+
+void OptionButton::Settled() {
+  if (Send(BM_GETCHECK) == BST_CHECKED) NoteChosen();
 }
 
 void OptionButton::ApplyBackColor() {
