@@ -101,10 +101,6 @@ void Native::CutTo(HRGN region) {
   if (!region && !is_cut_) return;
   is_cut_ = region != nullptr;
   SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
-  // The classes of labels and buttons otherwise draw with the region of the window around them.
-  SetClassLongPtrW(
-      hwnd_, GCL_STYLE,
-      static_cast<LONG_PTR>(GetClassLongPtrW(hwnd_, GCL_STYLE) & ~ULONG_PTR{CS_PARENTDC}));
 }
 
 void Native::UseFont(bool bold) {

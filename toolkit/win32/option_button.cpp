@@ -1,15 +1,14 @@
 #include "controls.h"
 
-#include <uxtheme.h>
-
 namespace Win32 {
 
-// The arrow keys move within a group, which begins at its first button.
+// The arrow keys move within a group, which begins at its first button. Clipped as a label is.
 OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& row,
                            Toolkit::OptionGroup& group)
     : Toolkit::OptionButton(group),
       Native(window, row,
-             {L"BUTTON", BS_AUTORADIOBUTTON | (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
+             {L"BUTTON", BS_AUTORADIOBUTTON | WS_CLIPCHILDREN |
+                             (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
 
 void OptionButton::Place() {
   Native::Place();
