@@ -77,7 +77,6 @@ class Native {
   virtual void Place();      // puts it there, and gives it its font
   void CutTo(HRGN region);   // draws nothing outside it; null takes the cut back
 
-  virtual void FollowTheme() {}   // the user has chosen another theme
   virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Settled() {}       // what PostSettle has asked for
   void Paint();                   // what PaintLater has put off

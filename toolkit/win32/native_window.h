@@ -45,6 +45,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   // Where the window stands and its controls in it: placement.cpp.
   void Centre();
   void Fit();
+  void FitAnew();
   void MoveToDpi(int dpi, const RECT& place);
   void PlaceControls();
   void KeepOffFields();
@@ -54,7 +55,7 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   int dpi_ = 96;
   int monitor_dpi_ = 96;
   RECT fitted_area_ = {};  // the work area that the window was fitted into
-  int fitted_dpi_ = 0;     // what its monitor had then
+  bool must_fit_ = true;   // whatever that area is
   bool is_dragged_ = false;
   std::vector<Native*> controls_;
   HWND remembered_focus_ = nullptr;

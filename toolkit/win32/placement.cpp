@@ -1,5 +1,6 @@
 // Where the window stands, how large it is drawn, and where its controls stand in it.
 #include <algorithm>
+#include <utility>
 
 #include "native_window.h"
 
@@ -37,14 +38,14 @@ void NativeWindow::Centre() {
 }
 
 // Draws the window at the largest scale, up to that of its monitor, at which the whole of it lies
-// in the work area, and moves it there. Does nothing if it has been fitted to just this; a window
-// that is dragged must not change its size, which could bring it back to the monitor that it comes
-// from, and a minimised or maximised one is on its way to its own size.
+// in the work area, and moves it there. Does nothing if it need not and has been fitted to just
+// this area; a window that is dragged must not change its size, which could bring it back to the
+// monitor that it comes from, and a minimised or maximised one is on its way to its own size.
 void NativeWindow::Fit() {
   const RECT area = WorkArea(hwnd_);
   if (is_dragged_ || IsIconic(hwnd_) || IsZoomed(hwnd_)) return;
-  if (monitor_dpi_ == fitted_dpi_ && EqualRect(&area, &fitted_area_)) return;
-  fitted_dpi_ = monitor_dpi_;
+  if (!must_fit_ && EqualRect(&area, &fitted_area_)) return;
+  bool must_fit = std::exchange(must_fit_, false);
   fitted_area_ = area;
   // What the frame adds is seen once the window is larger than its frame, so the first size of a
   // new window is a guess.
@@ -60,13 +61,24 @@ void NativeWindow::Fit() {
     const auto lies_inside = [&] {
       return width() <= area.right - area.left && height() <= area.bottom - area.top;
     };
-    dpi_ = monitor_dpi_;
+    const int dpi_before = std::exchange(dpi_, monitor_dpi_);
     while (dpi_ > LowestDpi && !lies_inside()) --dpi_;
+    // The user may leave it across two monitors.
+    if (!must_fit && dpi_ == dpi_before && lies_inside()) return;
+    must_fit = true;
     SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(), outer.left),
                  Between(area.top, area.bottom, height(), outer.top), width(), height(),
                  SWP_NOZORDER | SWP_NOACTIVATE);
   }
   PlaceControls();
+}
+
+// After a change of the desktop, the theme or the scale: at once, and again when the native
+// controls have heard of it, too. They may then measure themselves anew.
+void NativeWindow::FitAnew() {
+  must_fit_ = true;
+  Fit();
+  PostMessageW(hwnd_, PlaceMessage, 0, 0);
 }
 
 void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
@@ -76,11 +88,8 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
   // The whole place at once: a window that is resized where it was may change its monitor again.
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  Fit();
-  // Now, and again when the native controls have heard of the change, too: they may then measure
-  // themselves anew.
   PlaceControls();
-  PostMessageW(hwnd_, PlaceMessage, 0, 0);
+  FitAnew();
 }
 
 void NativeWindow::PlaceControls() {
