@@ -12,12 +12,6 @@ constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIM
 constexpr COLORREF Black = RGB(0, 0, 0);
 constexpr UINT_PTR TimerId = 1;
 
-// The icon of the program, in the size that the system wants for one of its places.
-HICON ProgramIcon(int width, int height) {
-  return static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON,
-                                       GetSystemMetrics(width), GetSystemMetrics(height), 0));
-}
-
 // A brush for a ground; made once, kept for the life of the program. It is a solid one, since a
 // themed button may fill its ground through another device context than the one that it asks for.
 HBRUSH BrushOf(Toolkit::Color color) {
@@ -39,8 +33,6 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   window_class.lpfnWndProc = Procedure;
   window_class.cbWndExtra = DLGWINDOWEXTRA;
   window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hIcon = ProgramIcon(SM_CXICON, SM_CYICON);
-  window_class.hIconSm = ProgramIcon(SM_CXSMICON, SM_CYSMICON);
   window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
   window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   window_class.lpszClassName = WindowClass;
@@ -66,6 +58,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
     set_behavior(hwnd_, DisableAll, DisableAll);
   }
   monitor_dpi_ = DpiOf(hwnd_);
+  ShowIcons();
   Fit();
 }
 
@@ -245,6 +238,18 @@ void NativeWindow::FrameDefaultButton(HWND button) {
     if (child != button && (code & DLGC_DEFPUSHBUTTON)) {
       SendMessageW(child, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
     }
+  }
+}
+
+// The program's icon on the task bar and in the title bar, in their sizes at the monitor's scale.
+void NativeWindow::ShowIcons() {
+  for (const auto& [place, size] : {std::pair{ICON_BIG, 32}, std::pair{ICON_SMALL, 16}}) {
+    const int pixels = MulDiv(size, monitor_dpi_, 96);
+    const HANDLE icon =
+        LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, pixels, pixels, 0);
+    const LRESULT before =
+        SendMessageW(hwnd_, WM_SETICON, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(icon));
+    DestroyIcon(reinterpret_cast<HICON>(before));
   }
 }
 

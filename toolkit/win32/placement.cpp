@@ -85,6 +85,7 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
   // A dragged window is fitted when it is let go. Until then it grows or shrinks with the place.
   dpi_ = MulDiv(dpi_, dpi, monitor_dpi_);
   monitor_dpi_ = dpi;
+  ShowIcons();
   // The whole place at once: a window that is resized where it was may change its monitor again.
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
