@@ -1,8 +1,7 @@
-// Uses the built tandem.exe as a person does, from outside, by keyboard and clipboard.
+// Uses the built tandem.exe as a person does, from outside, by keyboard, mouse and clipboard.
 #include "desk.h"
 
 #include <array>
-#include <map>
 
 #include "native.h"
 
@@ -58,7 +57,7 @@ TEST_F(RealWindow, NamesStandBeforeTheirControls) {
 }
 
 TEST_F(RealWindow, TabGoesRoundAllStops) {
-  for (const View next :
+  for (const Text next :
        {u"cmdTBF0",   u"cmdTBF1",      u"cmdTBF2",   u"txbOutput", u"cmdClear",   u"cmdCopy",
         u"cmdQuit",   u"txbYearCE1",   u"cboDay1",   u"cboMonth1", u"txbYearCE0", u"cboDay0",
         u"cboMonth0", u"optCalendar0", u"cboMonth2", u"cboDay2",   u"cboMType",   u"cboYearInMet",
@@ -72,9 +71,8 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
   EXPECT_EQ(Ask(u"optCalendar1", BM_GETCHECK), BST_CHECKED);
 }
 
-TEST_F(RealWindow, EnterAndEscape) {
-  // Enter converts in the chosen row alone, and Escape does nothing. That nothing has happened
-  // shows when the next key has.
+TEST_F(RealWindow, EnterConvertsInTheChosenRowAlone) {
+  // That nothing has happened, at Escape as well, shows when the next key has.
   const Text pane = Read(u"txbOutput");
   GoTo(u"txbYearCE1");
   Press({VK_RETURN, VK_ESCAPE, VK_TAB});
@@ -84,18 +82,40 @@ TEST_F(RealWindow, EnterAndEscape) {
   GoTo(u"txbYearCE0");
   Press({VK_RETURN});
   EXPECT_SEEN(Read(u"txbYearCE1"), u"2012");
+}
+
+TEST_F(RealWindow, EnterPressesTheButtonWithTheFocus) {
+  Fill(u"txbYearCE1", u"2012");
   GoTo(u"cmdTBF0");
   Press({VK_RETURN});
   EXPECT_SEEN(Focus(), u"cmdConvert");
-  EXPECT_NE(Read(u"txbYearCE1"), u"2012");
+  EXPECT_EQ(Read(u"txbYearCE1"), Read(u"txbYearCE0"));
+}
 
-  // The Enter that closes a box is held until the field behind has the focus again. Its repeats and
-  // its end there bring up no other box.
+TEST_F(RealWindow, NothingGoesOnBehindABox) {
+  const auto is_framed = [this] { return Ask(u"cmdConvert", WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON; };
+  Fill(u"txbYearCE0", u"");
+  Press({VK_SPACE});
+  EXPECT_SEEN(Focus(), AtBox);
+  EXPECT_EQ(TextOf(GetLastActivePopup(window)), u"Invalid input");
+  EXPECT_FALSE(is_framed());
+  // A tick would take the blank away before the character comes.
+  Fill(u"txbYearCE0", u" 3");
+  PostMessageW(window, WM_TIMER, 1, 0);
+  PostMessageW(Control(u"txbYearCE0"), WM_CHAR, u'0', 0);
+  EXPECT_SEEN(Read(u"txbYearCE0"), u"0 3");
+  Press({VK_ESCAPE});
+  EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_TRUE(is_framed());
+}
+
+TEST_F(RealWindow, TheEnterThatClosesABoxIsSpent) {
   Fill(u"txbYearCE0", u"");
   GoTo(u"txbYearCE0");
   Press({VK_RETURN});
   EXPECT_SEEN(Focus(), AtBox);
-  EXPECT_EQ(TextOf(GetLastActivePopup(window)), u"Invalid input");
+  // It is held until the field behind has the focus again. Its repeats and its end there bring up
+  // no other box.
   Key(VK_RETURN, true);
   EXPECT_SEEN(Focus(), u"txbYearCE0");
   PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, LPARAM{KF_REPEAT} << 16 | 1);
@@ -107,8 +127,9 @@ TEST_F(RealWindow, EnterAndEscape) {
 TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
   const bool is_first = Read(u"cboDay0") == u"1";
   const WORD to_another = is_first ? VK_END : VK_HOME;
-  // One after the other: the list, the keys, what its line shows then, and where the focus is.
-  const std::tuple<View, std::vector<WORD>, View, View> steps[] = {
+  // One after the other.
+  const std::tuple<Text, std::vector<WORD>, Text, Text> steps[] = {
+      // list, keys, what its line shows then, where the focus is
       {u"cboDay0", {VK_F4, to_another, VK_RETURN}, is_first ? u"31" : u"1", u"cmdConvert"},
       // A closed list chooses at once. In an open one arrows browse, Escape restores, Enter
       // chooses.
@@ -123,29 +144,95 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
   for (const auto& [list, keys, shown, focus] : steps) {
     if (Focus() != list) GoTo(list);
     Press(keys);
-    EXPECT_SEEN(std::pair(Read(list), Focus()), std::pair(Text(shown), Text(focus)));
+    EXPECT_SEEN(std::pair(Read(list), Focus()), std::pair(shown, focus));
   }
 }
 
-TEST_F(RealWindow, TickKeepsTheCaretOnItsCharacter) {
+// The line of a list reads the item that counts, however the list is left, and after a selection
+// from code.
+TEST_F(RealWindow, ListsShowWhatCounts) {
+  for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
+    SCOPED_TRACE(testing::PrintToString(list));
+    const LRESULT index = Ask(list, CB_GETCURSEL);
+    const bool is_first = index == 0;
+    const std::tuple<Text, LRESULT, LRESULT> closed = {Item(list, index), index, FALSE};
+    const auto state = [&] {
+      return std::tuple(Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE));
+    };
+    for (const bool by_mouse : {true, false}) {
+      GoTo(list);
+      by_mouse ? Click(Control(list)) : Press({VK_F4});
+      EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+      is_first ? Press({VK_DOWN}) : Press({VK_UP});
+      EXPECT_SEEN(Read(list), Item(list, is_first ? 1 : index - 1));
+      by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
+      EXPECT_SEEN(state(), closed);
+    }
+    Press({'X'});
+    EXPECT_SEEN(Read(list), u"x");
+    SendMessageW(window, WM_THEMECHANGED, 0, 0);  // which places the controls anew
+    EXPECT_EQ(Read(list), u"x");
+    GoTo(u"cmdTBF0");
+    Press({VK_SPACE});
+    EXPECT_SEEN(state(), closed);
+  }
+}
+
+TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
+  const HWND list = Control(u"cboGMet");
+  const auto turn_over = [](HWND under_the_pointer) {
+    PostMessageW(under_the_pointer, WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+  };
+  turn_over(list);
+  turn_over(GetWindow(list, GW_CHILD));
+  Press({VK_TAB});
+  EXPECT_SEEN(Focus(), u"cmdTBF0");
+  EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
+  GoTo(u"cboGMet");
+  turn_over(list);
+  EXPECT_SEEN(Read(u"cboGMet"), u"GMet-1");
+}
+
+TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
   GoTo(u"txbYearCE0");
   Fill(u"txbYearCE0", u"  30");
   Press({VK_END, VK_LEFT});                 // between the digits
   EXPECT_SEEN(Read(u"txbYearCE0"), u"30");  // trimmed by a tick that comes by itself
   EXPECT_SEEN(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(1, 1));
+  Fill(u"txbYearCE0", u"");
+  const auto can_be_pressed = [this](View name) { return IsWindowEnabled(Control(name)); };
+  EXPECT_SEEN(can_be_pressed(u"cmdTBF2"), FALSE);
+  EXPECT_EQ(can_be_pressed(u"cmdTBF1"), FALSE);
+  EXPECT_EQ(can_be_pressed(u"cmdTBF0"), TRUE);
+}
+
+TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
+  const std::size_t block = Read(u"txbOutput").size();
+  Text lines;
+  for (int line = 0; line < 1000; ++line) lines += Text(40, u'x') + u"\r\n";
+  Fill(u"txbOutput", lines);
+  Press({VK_SPACE});
+  EXPECT_SEEN(Read(u"txbOutput").size(), lines.size() + block);
+  EXPECT_GT(Ask(u"txbOutput", EM_GETFIRSTVISIBLELINE), 900);
+  GoTo(u"txbOutput");
+  Press({'X'});
+  EXPECT_SEEN(Read(u"txbOutput").size(), lines.size() + block + 1);
 }
 
 TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   Fill(u"txbOutput", Text(76, u'x'));
   EXPECT_EQ(Ask(u"txbOutput", EM_GETLINECOUNT), 1);
   Fill(u"txbOutput", u"\u00E4.\r\n\t");
-  EXPECT_SEEN(OpenClipboard(nullptr), TRUE);
+  EXPECT_SEEN(OpenClipboard(window), TRUE);
   EmptyClipboard();
+  SetClipboardData(CF_PRIVATEFIRST, GlobalAlloc(GMEM_MOVEABLE, 1));
   CloseClipboard();
+  EXPECT_EQ(IsClipboardFormatAvailable(CF_PRIVATEFIRST), TRUE);
   GoTo(u"cmdCopy");
   Press({VK_SPACE});
   EXPECT_SEEN(IsClipboardFormatAvailable(CF_UNICODETEXT), TRUE);
   EXPECT_SEEN(OpenClipboard(nullptr), TRUE);
+  EXPECT_EQ(IsClipboardFormatAvailable(CF_PRIVATEFIRST), FALSE);
   const auto* copied = static_cast<const char16_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
   EXPECT_EQ(Text(copied ? copied : u""), u"\u00E4.\r\n\t");
   // While another program holds the clipboard.
@@ -160,42 +247,6 @@ TEST_F(RealWindow, ComingBackKeepsTheFocus) {
   EXPECT_SEEN(IsIconic(window), TRUE);
   PostMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0);
   EXPECT_SEEN(Focus(), u"cboDay0");
-}
-
-// The longest text of each control, in the font that it gets at each scale: that of the layout, or
-// what a list or a box may hold.
-TEST(StoredLayout, CutsNoText) {
-  const std::map<Text, Text> contents = {
-      // clang-format off
-      {u"txbYearCE0", u"-9999"}, {u"cboMonth0", u"September"}, {u"cboDay0", u"30"},
-      {u"txbYearCE1", u"-9999"}, {u"cboMonth1", u"September"}, {u"cboDay1", u"30"},
-      {u"cboMonth2", u"LA-13"}, {u"cboDay2", u"30"}, {u"cboYearInMet", u"LYC-19"},
-      {u"cboGMet", u"GMet-2"}, {u"cboMType", u"C"}, {u"txbMetNum", u"341"},
-      // clang-format on
-  };
-  // What else stands in a control, in pixels at 96 dpi: edges, the arrow of a list, the circle of
-  // an option.
-  std::map<Kind, int> besides = {
-      {Kind::TextBox, 6}, {Kind::List, 23}, {Kind::OptionButton, 20}, {Kind::CommandButton, 8}};
-  const HDC screen = GetDC(nullptr);
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
-    const auto content = contents.find(NameOf(row));
-    const Text text = content == contents.end() ? Text(row.text) : content->second;
-    for (int dpi = 60; dpi <= 288; dpi += 12) {
-      SelectObject(screen, Win32::FontAt(row.font, row.kind == Kind::OptionButton, dpi));
-      SIZE size = {};
-      GetTextExtentPoint32W(screen, Win32::Wide(text), static_cast<int>(text.size()), &size);
-      EXPECT_LE(size.cx + MulDiv(besides[row.kind], dpi, 96), Win32::Pixels(row.width, dpi))
-          << testing::PrintToString(NameOf(row)) << " at " << dpi;
-    }
-  }
-  ReleaseDC(nullptr, screen);
-}
-
-TEST(RealProgram, AsksTheSystemForTheDate) {
-  wchar_t today[16] = {};
-  GetDateFormatEx(L"en-US", 0, nullptr, L"MM-dd-yyyy", today, 16, nullptr);
-  EXPECT_STREQ(Win32::Wide(Win32::LocalDate()), today);
 }
 
 TEST_F(RealWindow, EndsWithCode0) {
