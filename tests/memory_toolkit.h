@@ -44,7 +44,7 @@ struct TextBox : Toolkit::TextBox {
     text = all;
     selection = {0, 0};
   }
-  Selection SelectedText() const override { return selection; }
+  Selection SelectedStretch() const override { return selection; }
   void SelectText(Selection stretch) override { selection = stretch; }
 };
 

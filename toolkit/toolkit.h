@@ -145,7 +145,7 @@ class TextBox : public Control {
 
  protected:
   virtual void ApplyText(std::u16string_view text) = 0;
-  virtual Selection SelectedText() const = 0;
+  virtual Selection SelectedStretch() const = 0;
   virtual void SelectText(Selection selection) = 0;
 
   // To be called by the platform. A repeat is a key-down of a key that is down already.

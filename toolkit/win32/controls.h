@@ -39,7 +39,7 @@ class TextBox : public Toolkit::TextBox, public Native {
   bool IsTypedTab(WPARAM key) const;
   LRESULT WantedKeys(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
-  Selection SelectedText() const override;
+  Selection SelectedStretch() const override;
   void SelectText(Selection selection) override;
 
   WNDPROC native_procedure_;  // of the native control, for what OnMessage leaves to it

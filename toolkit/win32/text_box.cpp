@@ -116,7 +116,7 @@ void TextBox::ApplyText(std::u16string_view text) {
   SetWindowTextW(hwnd_, Wide(std::u16string(text)));
 }
 
-TextBox::Selection TextBox::SelectedText() const {
+TextBox::Selection TextBox::SelectedStretch() const {
   DWORD start = 0;
   DWORD end = 0;
   Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
