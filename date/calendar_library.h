@@ -26,8 +26,8 @@ inline constexpr std::int32_t NoSuchDayJdn = std::numeric_limits<std::int32_t>::
 extern "C" {
 
 // Sets `jdn` and `valid` from `year`, `month`, `day` and `calendar`. A date that does not exist, a
-// calendar other than GregorianCalendar and a day whose JDN does not fit give valid 0 and
-// NoSuchDayJdn.
+// calendar other than GregorianCalendar and a day whose JDN, or that of the day after it, does not
+// fit give valid 0 and NoSuchDayJdn.
 void euro_date_to_jdn(EuroDate* date);
 
 // Sets `year`, `month` and `day` from `jdn`, whatever its value. `valid` is left alone; with a

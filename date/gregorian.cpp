@@ -47,7 +47,8 @@ void euro_date_to_jdn(EuroDate* date) {
   date->jdn = NoSuchDayJdn;
   if (!Exists(*date)) return;
   const std::int64_t jdn = JdnOf(*date);
-  if (jdn <= NoSuchDayJdn || jdn > std::numeric_limits<std::int32_t>::max()) return;
+  // A day has a next one, which must fit, too.
+  if (jdn <= NoSuchDayJdn || jdn >= std::numeric_limits<std::int32_t>::max()) return;
   date->valid = 1;
   date->jdn = static_cast<std::int32_t>(jdn);
 }

@@ -60,9 +60,8 @@ class frmMain {
   enum YearStatus : std::int16_t {
     YearAccepted = 0,
     YearEmpty = -1,
-    YearNotDigits = -2,    // a character other than a digit or "-"
-    YearMinusInside = -3,  // a "-" behind another character
-    YearOutOfRange = -4    // outside -9999 to 99999
+    YearNotDigits = -2,   // a character other than a digit or "-"
+    YearMinusInside = -3  // a "-" behind another character
   };
   enum MetNumStatus : std::int16_t { MetNumEmpty = -1, MetNumNotDigits = -2 };
   void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);

@@ -9,10 +9,6 @@ using StrProc::DecimalValue;
 
 namespace {
 
-// What five typed characters can say. A field can be made to hold more from outside the program.
-constexpr std::int32_t MinYear = -9999;
-constexpr std::int32_t MaxYear = 99999;
-
 // The number of the selected item of `list`, counted from 1; 0 when nothing is selected.
 template <class Number>
 Number SelectedNumber(const Toolkit::List& list) {
@@ -22,11 +18,7 @@ Number SelectedNumber(const Toolkit::List& list) {
 frmMain::YearStatus StatusOfYear(std::u16string_view text) {
   if (text.empty()) return frmMain::YearEmpty;
   if (!StrProc::IsAllDigitsOr(text, u"-")) return frmMain::YearNotDigits;
-  const std::size_t last_minus = text.rfind(u'-');
-  if (last_minus != text.npos && last_minus > 0) return frmMain::YearMinusInside;
-  const std::int32_t year = DecimalValue(text);
-  const bool in_range = year >= MinYear && year <= MaxYear;
-  return in_range ? frmMain::YearAccepted : frmMain::YearOutOfRange;
+  return text.find(u'-', 1) == text.npos ? frmMain::YearAccepted : frmMain::YearMinusInside;
 }
 
 // The number at the start of `text`, or the nearest that a field of the record holds; the check of
