@@ -61,7 +61,7 @@ frmMain::frmMain(Desktop& its_desktop, ProgramVersion its_version, std::u16strin
 
 void frmMain::WireEvents() {
   window.Activate = [this] { Form_Activate(); };
-  window.Unload = [this] { Form_Unload(); };
+  window.Unload = [this] { Form_Unload(0); };
   Timer1.Tick = [this] { Timer1_Timer(); };
   for (std::int16_t i = 0; i < optCalendar.Count; ++i) {
     optCalendar[i].Click = [this, i] { optCalendar_Click(i); };

@@ -105,7 +105,7 @@ class frmMain {
   void cmdCopy_Click();                        // the whole pane to the clipboard, as plain text
   void cmdClear_Click();                       // empties the pane
   void cmdQuit_Click();                        // ends the program, without a question
-  void Form_Unload();                          // the same, when the window is closed
+  void Form_Unload(std::int16_t Cancel);       // the same when the window is closed; ignores Cancel
 
  private:
   void WireEvents();

@@ -19,6 +19,6 @@ void frmMain::cmdQuit_Click() {
   desktop.EndProgram();
 }
 
-void frmMain::Form_Unload() {
+void frmMain::Form_Unload(std::int16_t) {
   cmdQuit_Click();
 }
