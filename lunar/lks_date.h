@@ -14,21 +14,22 @@
 
 namespace Karvel_Sorand {
 
-// One date. A fresh record is `{}`; a record that is used again allocates nothing. The three types
-// follow from the numbers, and the record carries them all the same: the window's lists show type
-// and number together, and CheckLksDate holds the one against the other.
+// One date. In a fresh record all numbers are 0 and all texts empty; one that is used again
+// allocates nothing. The three types follow from the numbers, and the record carries them all the
+// same: the window's lists show type and number together, and CheckLksDate holds the one against
+// the other.
 struct LksDate {
-  std::int16_t GMet;         // great cycle, 1 or 2
-  std::u16string MetType;    // type of the Metonic cycle: "A", "B", "C"
-  std::int16_t MetNum;       // position of the Metonic cycle in its great cycle, 1 to 341
-  std::u16string YearType;   // "A", "B", "C"
-  std::int16_t YearInMet;    // position of the year in its Metonic cycle, 1 to 19
-  std::u16string MonthType;  // "A", "B"
-  std::int16_t Month;        // position of the month in its year, 1 to 13
-  std::int16_t Day;          // day of the month, 1 to 30
-  std::int32_t Jdn;          // 7333 to 4740140
-  std::int16_t Valid;        // -1: the fields name a day of the calendar; 0: they do not
-  std::u16string Label;      // the one-line text of the date; empty after a failed conversion
+  std::int16_t GMet = 0;       // great cycle, 1 or 2
+  std::u16string MetType;      // type of the Metonic cycle: "A", "B", "C"
+  std::int16_t MetNum = 0;     // position of the Metonic cycle in its great cycle, 1 to 341
+  std::u16string YearType;     // "A", "B", "C"
+  std::int16_t YearInMet = 0;  // position of the year in its Metonic cycle, 1 to 19
+  std::u16string MonthType;    // "A", "B"
+  std::int16_t Month = 0;      // position of the month in its year, 1 to 13
+  std::int16_t Day = 0;        // day of the month, 1 to 30
+  std::int32_t Jdn = 0;        // 7333 to 4740140
+  std::int16_t Valid = 0;      // -1: the fields name a day of the calendar; 0: they do not
+  std::u16string Label;        // the one-line text of the date; empty after a failed conversion
 };
 
 inline constexpr std::int16_t LksTrue = -1;
