@@ -1,12 +1,24 @@
+#include <algorithm>
+
 #include "lks_steps.h"
 
 namespace Karvel_Sorand {
 
+namespace {
+
+// The days before unit `number`. A number that the table does not have, which only a caller who
+// breaks the contract can ask for, counts as the nearest that it has.
+std::int32_t DaysBefore(std::int16_t number, const std::vector<std::int32_t>& start) {
+  return start[static_cast<std::size_t>(
+      std::clamp<std::ptrdiff_t>(number, 0, std::ssize(start) - 1))];
+}
+
+}  // namespace
+
 std::int32_t LksDateToJdn(LksDate& date) {
-  const auto cycle = static_cast<std::size_t>(date.MetNum);
-  const auto year = static_cast<std::size_t>(date.YearInMet);
-  std::int32_t days = MetCycleStart[cycle] + YearsOf(date.MetType).start[year];
-  days += DaysBeforeMonth(date.Month) + date.Day - 1;
+  std::int32_t days = DaysBefore(date.MetNum, MetCycleStart);
+  days += DaysBefore(date.YearInMet, YearsOf(date.MetType).start);
+  days += DaysBeforeMonth(std::max<std::int32_t>(date.Month, 1)) + date.Day - 1;
   // The 30th day of month 12 in a year of type B counts only from month 13 on, which no such year
   // has. The record's own YearType decides; CheckLksDate has made sure that it is the pattern's.
   if (date.Month == 13 && date.YearType == u"B") ++days;

@@ -73,6 +73,9 @@ TEST_F(Lunar, DaysOutsideTheCalendar) {
   EXPECT_EQ(date.Jdn, 7332);
   EXPECT_EQ(date.Valid, LksFalse);
   EXPECT_EQ(date.Label, u"");
+  // Not asked for by anyone, and yet not to be looked up outside the tables.
+  LksDate beyond{2, u"A", -9, u"B", -9, u"A", -9, 1, 0, 0, u""};
+  EXPECT_EQ(LksDateToJdn(beyond), 2373737);
 }
 
 TEST_F(Lunar, StatusOfDates) {
