@@ -127,8 +127,10 @@ TEST_F(Form, RefusesWithABox) {
   for (const auto& [calendar, entry, can_step, button, text, title, icon] : refusals) {
     SCOPED_TRACE(testing::PrintToString(entry));
     StartFrom(calendar, entry);
-    EXPECT_EQ(form.cmdTBF[Back].Enabled(), can_step);
-    EXPECT_EQ(form.cmdTBF[Forward].Enabled(), can_step);
+    for (int step = Back; step < form.cmdTBF.Count; ++step) {
+      EXPECT_EQ(form.cmdTBF[step].Enabled(), can_step) << "step " << step;
+      EXPECT_EQ(form.cmdTBF[step].FocusHeir, &form.cmdConvert) << "step " << step;
+    }
     EXPECT_EQ(form.lblSameDay.Caption(), u"The dates above do not denote the same day.");
     Text rows = Rows();
     if (button == u"cmdConvert") rows.resize(rows.rfind(u' ') + 1);  // the lunar weekday

@@ -85,8 +85,9 @@ void frmMain::WireEvents() {
   cmdQuit.Click = [this] { cmdQuit_Click(); };
   // The commands that the tick disables. Behind two of them comes Quit, and one more Space there
   // would end the program: the focus goes where every command leaves it.
-  for (auto* command : {&cmdClear, &cmdCopy, &cmdTBF[Back], &cmdTBF[Forward]})
-    command->FocusHeir = &cmdConvert;
+  cmdClear.FocusHeir = &cmdConvert;
+  cmdCopy.FocusHeir = &cmdConvert;
+  for (int step = Back; step < cmdTBF.Count; ++step) cmdTBF[step].FocusHeir = &cmdConvert;
 }
 
 Calendar frmMain::SelectedCalendar() const {

@@ -22,7 +22,7 @@ struct ProgramVersion {
 // The indexes of the controls, with the 16 bits of the handlers' arguments. Solar is the Solar
 // Karvel-Gregorian, Lunar the Lunar Karvel-Sorand calendar.
 enum Calendar : std::int16_t { Gregorian, Solar, Lunar };
-enum Step : std::int16_t { Today, Back, Forward };
+enum Step : std::int16_t { Today, Back, Forward };  // all but Today start from the chosen date
 
 class frmMain {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout

@@ -9,6 +9,5 @@ void frmMain::Timer1_Timer() {
   CheckSameDay(CompareRows);
   std::int32_t jdn = 0;
   const bool can_step = ReadSelectedJdn(jdn);
-  cmdTBF[Back].SetEnabled(can_step);
-  cmdTBF[Forward].SetEnabled(can_step);
+  for (int step = Back; step < cmdTBF.Count; ++step) cmdTBF[step].SetEnabled(can_step);
 }
