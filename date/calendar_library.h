@@ -1,6 +1,7 @@
 // The calendar library: the proleptic Gregorian calendar by Julian Day Number (JDN), as four
-// functions with C linkage. Years are astronomical: there is a year 0, and -44 is the year before
-// -43. The functions keep nothing; a record is owned by its caller.
+// functions with C linkage: programs in other languages can call them, and another library can take
+// their place. Years are astronomical: there is a year 0, and -44 is the year before -43. The
+// functions keep nothing; a record is owned by its caller.
 #pragma once
 
 #include <cstdint>

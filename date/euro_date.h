@@ -1,5 +1,8 @@
 // The Gregorian side: names of months and weekdays, today's date, and dates as text. The
 // arithmetic is the calendar library's.
+//
+// The form writes dates in one order, years ungrouped and names unpadded. The rest is for other
+// programs that take this room as it is, and for its tests.
 #pragma once
 
 #include <array>

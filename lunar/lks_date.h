@@ -46,8 +46,9 @@ inline constexpr std::int16_t LksNoMonth = -6;   // the month that came out is o
 inline constexpr std::int16_t LksNoDay = -7;     // the day that came out is outside 1 to 30
 
 // Fills `date` with the date of day `jdn`. Without `allowBeforeCe` a day below CeStartJdn is
-// refused. On success, 0, all fields are set and Valid is true. On failure Jdn is set, Valid is
-// false, Label is empty, and a field that a later step would have set keeps what it held.
+// refused, for other programs: the form takes every day. On success, 0, all fields are set and
+// Valid is true. On failure Jdn is set, Valid is false, Label is empty, and a field that a later
+// step would have set keeps what it held.
 std::int16_t JdnToLksDate(std::int32_t jdn, LksDate& date, bool allowBeforeCe);
 
 // The JDN of the date in the fields GMet to Day; also sets Jdn, Label and Valid (to true). It adds

@@ -79,7 +79,8 @@ class frmMain {
   void txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
 
   // same_day.cpp. Says in lblSameDay whether the three rows denote one day, and gives that back.
-  // Mode 0 takes False and mode 1 takes True without reading anything; any other compares.
+  // Mode 0 takes False and mode 1 takes True without reading anything, for a caller from outside
+  // the form that knows the answer; any other compares.
   static constexpr std::int16_t CompareRows = -1;
   bool CheckSameDay(std::int16_t mode);
 
