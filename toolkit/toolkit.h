@@ -13,11 +13,18 @@
 //  4. A command button that turns disabled while it holds the focus first hands the focus to the
 //     button that the form has named for this, its FocusHeir.
 //
-// Texts are UTF-16. Lengths of the stored layout are in twips, 1/1440 of an inch. Colours are
-// 0x00BBGGRR, keys have the numbers of Win32 (Enter is 13), and so have the two icons.
+// Texts are UTF-16; positions in them count its 16-bit units, and lines end with "\r\n" wherever
+// there are several, typed ones included. Lengths of the stored layout are in twips, 1/1440 of an
+// inch. Colours are 0x00BBGGRR, keys have the numbers of Win32 (Enter is 13), and so have the two
+// icons.
 //
 // For whoever writes the next platform:
 //
+//  - The main loop is the platform's own, and so is the local date: the program's entry point makes
+//    the Desktop with a client area of the layout's size, gives the form's calendar side a function
+//    for the date as a text mm-dd-yyyy, loads the form and runs the loop. That brings the window to
+//    the middle of the screen; before, it is not shown, which the form relies on while it loads. A
+//    window that is too large for its screen is drawn smaller with all that is in it.
 //  - A program has one Desktop, which owns the window and the timer. The form owns the controls
 //    that NewControl gives it; they end before the Desktop does. The rows of the layout live longer
 //    than all of them, so a control can keep a reference to its own. The option buttons of the
@@ -28,13 +35,18 @@
 //    Escape restores what was selected before it was opened. While the line holds typed text
 //    nothing is selected: ListIndex is -1, until an item is chosen. What the line shows and what
 //    ListIndex says never differ otherwise.
+//  - Tab and Shift+Tab go round the controls that can be used, in the order of the rows; the option
+//    buttons are one stop, and arrows choose among them. Up, Down and the wheel choose in a closed
+//    list that has the focus; in an open one arrows browse and Enter takes the item. Enter and
+//    Space press the command button that has the focus; there is no default button. In a text box
+//    Ctrl+A selects all, and so does coming in by Tab, but not in one of several lines, where Enter
+//    and Ctrl+Tab type a line end and a tab. Elsewhere Enter does nothing of its own, and neither
+//    does Escape where no list is open.
 //  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
 //    control that has it when the window comes back.
 //  - All events come on the thread that made the Desktop, one after the other: each handler runs to
 //    its end. While it shows a message box there is no tick; the next one comes within a second of
 //    the box's end.
-//  - The main loop is the platform's own, and so is the local date: the program's entry point runs
-//    the one and hands the other to the form's calendar side.
 #pragma once
 
 #include <bitset>
@@ -52,12 +64,13 @@ using Color = std::int32_t;
 
 struct Font {
   std::u16string_view face;
-  int height;  // twips; 20 twips are a point
+  int height;  // twips of the em, so without the space above the letters; 20 are a point
 };
 
 enum class Kind { Frame, Label, TextBox, List, OptionButton, CommandButton };
 
-// One row of a window's stored layout. The rows stand in the tab order of their controls.
+// One row of a window's stored layout. The rows stand in the tab order of their controls. A label
+// or an option button may reach into a text box or a list, which lies above it.
 struct StoredControl {
   std::u16string_view name;
   int index;  // in the group of controls that share the name; NoIndex for a control of its own
@@ -66,7 +79,7 @@ struct StoredControl {
     int left, top;
   } container;  // where left and top count from, itself counted from the corner of the client area
   int left, top, width, height;
-  std::u16string_view text;
+  std::u16string_view text;  // the caption, the first text of a box or of a line to type in
   Font font;
   std::u16string_view spoken_name;  // what a screen reader says; empty: the caption serves
 
@@ -87,7 +100,7 @@ class Control {
   virtual ~Control() = default;
 };
 
-// Anything whose background colour can be set.
+// Anything whose background colour can be set. Text on a colour that was set is black.
 class Coloured {
  public:
   virtual ~Coloured() = default;
@@ -110,7 +123,7 @@ class Frame : public Control, public Coloured {
 class Label : public Control, public Coloured {
  public:
   static constexpr Kind OwnKind = Kind::Label;
-  explicit Label(std::u16string_view caption) : caption_(caption) {}
+  explicit Label(std::u16string_view caption) : caption_(caption) {}  // that of its row
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption);
 
@@ -131,9 +144,10 @@ class TextBox : public Control {
     bool operator==(const Selection&) const = default;
   };
 
+  // `shift` is the sum of 1 for Shift, 2 for Ctrl and 4 for Alt.
   std::function<void(std::int16_t key_code, std::int16_t shift)> KeyUp;
 
-  virtual std::u16string Text() const = 0;
+  virtual std::u16string Text() const = 0;      // at first that of its row
   virtual std::int32_t TextLength() const = 0;  // without copying the text
   void SetText(std::u16string_view text);
   virtual void AppendText(std::u16string_view text) = 0;  // without copying what is there
@@ -217,7 +231,7 @@ class OptionButton : public Control, public Coloured {
 class CommandButton : public Control {
  public:
   static constexpr Kind OwnKind = Kind::CommandButton;
-  explicit CommandButton(std::u16string_view caption) : caption_(caption) {}
+  explicit CommandButton(std::u16string_view caption) : caption_(caption) {}  // that of its row
   Event Click;
   CommandButton* FocusHeir = nullptr;  // takes the focus when this one turns disabled under it
 
@@ -248,8 +262,8 @@ class Timer {
 
 class Window : public Coloured {
  public:
-  Event Activate;  // the window has become the program's active one, for the first time
-  Event Unload;    // the user closes the window
+  Event Activate;  // on the screen, it has become the program's active one, for the first time
+  Event Unload;    // the user closes the window, which stays until EndProgram
 
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption);
@@ -274,7 +288,10 @@ class Desktop {
   virtual ~Desktop() = default;
   virtual Window& MainWindow() = 0;
   virtual Timer& MainTimer() = 0;
-  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;  // in tab order
+
+  // To be called for the rows in their order. Gives a control of the class whose OwnKind is the
+  // row's kind: the form casts it to that without a look.
+  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;
 
   // Shows a box with an OK button and returns when the user has closed it.
   virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
@@ -283,7 +300,8 @@ class Desktop {
   // cannot be done and it stays as it is. A failure is told to the user by a sound alone.
   virtual void SetClipboardText(std::u16string_view text) = 0;
 
-  // Takes the window off the screen and ends the program with exit code 0, without a question.
+  // Takes the window off the screen and ends the program with exit code 0, without a question. It
+  // returns; the main loop ends once the handler that has called it is done.
   virtual void EndProgram() = 0;
 };
 
