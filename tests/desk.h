@@ -57,20 +57,14 @@ inline void Press(const std::vector<WORD>& keys) {
   }
 }
 
-inline void MoveMouse(POINT place) {
-  SetCursorPos(place.x, place.y);
-  mouse_event(MOUSEEVENTF_MOVE, 0, 0, 0, 0);
-}
-
 // Clicks a few pixels from the right end of a window, where a list has its arrow. Then the mouse
 // goes out of the way: an open list follows it where it lies over that.
 inline void Click(HWND window) {
   RECT place;
   GetWindowRect(window, &place);
-  MoveMouse({place.right - 8, place.top + 8});
-  mouse_event(MOUSEEVENTF_LEFTDOWN, 0, 0, 0, 0);
-  mouse_event(MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
-  MoveMouse({0, 0});
+  SetCursorPos(place.right - 8, place.top + 8);
+  mouse_event(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  SetCursorPos(0, 0);
 }
 
 // Each test starts the program anew.
@@ -80,7 +74,7 @@ struct RealWindow : testing::Test {
 
   void SetUp() override {
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
-    MoveMouse({0, 0});
+    SetCursorPos(0, 0);
     wchar_t command[] = L"tandem.exe";  // which lies beside the test, wherever that is run from
     STARTUPINFOW start = {};
     start.cb = sizeof start;
@@ -105,14 +99,6 @@ struct RealWindow : testing::Test {
     return SendMessageW(Control(control), message, 0, 0);
   }
   Text Read(View control) const { return TextOf(Control(control)); }
-
-  // An item of a list; empty for an index outside it.
-  Text Item(View list, LRESULT index) const {
-    char16_t item[32] = u"";
-    SendMessageW(Control(list), CB_GETLBTEXT, static_cast<WPARAM>(index),
-                 reinterpret_cast<LPARAM>(item));
-    return item;
-  }
 
   // Where the next key goes, all of it from one look at the thread in front: the name of a control,
   // AtBox while a message box is in front and its button has the focus, or nothing.

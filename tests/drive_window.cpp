@@ -153,18 +153,18 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
 TEST_F(RealWindow, ListsShowWhatCounts) {
   for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
     SCOPED_TRACE(testing::PrintToString(list));
-    const LRESULT index = Ask(list, CB_GETCURSEL);
-    const bool is_first = index == 0;
-    const std::tuple<Text, LRESULT, LRESULT> closed = {Item(list, index), index, FALSE};
     const auto state = [&] {
       return std::tuple(Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE));
     };
+    const auto closed = state();
+    const LRESULT index = Ask(list, CB_GETCURSEL);
     for (const bool by_mouse : {true, false}) {
       GoTo(list);
       by_mouse ? Click(Control(list)) : Press({VK_F4});
       EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
-      is_first ? Press({VK_DOWN}) : Press({VK_UP});
-      EXPECT_SEEN(Read(list), Item(list, is_first ? 1 : index - 1));
+      index == 0 ? Press({VK_DOWN}) : Press({VK_UP});
+      EXPECT_SEEN(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
+      EXPECT_NE(Read(list), std::get<0>(closed));
       by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
       EXPECT_SEEN(state(), closed);
     }
