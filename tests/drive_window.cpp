@@ -190,7 +190,10 @@ TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
   EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
   GoTo(u"cboGMet");
   turn_over(list);
-  EXPECT_SEEN(Read(u"cboGMet"), u"GMet-1");
+  EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_EQ(Read(u"cboGMet"), u"GMet-1");
+  const LRESULT marks = Ask(u"cboGMet", CB_GETEDITSEL);
+  EXPECT_EQ(LOWORD(marks), HIWORD(marks)) << "it looks as if it had the focus";
 }
 
 TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
