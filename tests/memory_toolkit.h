@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <optional>
 
 #include "control_names.h"
 #include "toolkit.h"
@@ -14,18 +13,18 @@ using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title
 struct Screen {
   bool is_on = false;                       // the one window has been brought up
   const Toolkit::Control* focus = nullptr;  // of that window
-  int platform_calls = 0;                   // how often a control has had to do something
+  std::string applied;                      // the properties that were changed there
 };
 inline Screen screen;
 
 struct Frame : Toolkit::Frame {
-  void ApplyBackColor() override { ++screen.platform_calls; }
+  void ApplyBackColor() override {}
 };
 
 struct Label : Toolkit::Label {
   using Toolkit::Label::Label;
-  void ApplyBackColor() override { ++screen.platform_calls; }
-  void ApplyCaption() override { ++screen.platform_calls; }
+  void ApplyBackColor() override {}
+  void ApplyCaption() override { screen.applied += "Caption "; }
 };
 
 struct TextBox : Toolkit::TextBox {
@@ -40,7 +39,7 @@ struct TextBox : Toolkit::TextBox {
   void AppendText(View more) override { text += more; }
   void SetSelStart(std::int32_t position) override { selection = {position, position}; }
   void ApplyText(View all) override {
-    ++screen.platform_calls;
+    screen.applied += "Text ";
     text = all;
     selection = {0, 0};
   }
@@ -55,7 +54,7 @@ struct List : Toolkit::List {
   void ApplyNewItem(const std::u16string&) override {}
   void ApplyClear() override { index = -1; }
   void ApplyListIndex(int item) override {
-    ++screen.platform_calls;
+    screen.applied += "ListIndex ";
     index = item;
   }
 };
@@ -63,9 +62,9 @@ struct List : Toolkit::List {
 struct OptionButton : Toolkit::OptionButton {
   using Toolkit::OptionButton::NoteChosen;
   using Toolkit::OptionButton::OptionButton;
-  void ApplyBackColor() override { ++screen.platform_calls; }
-  void ApplyValue() override { ++screen.platform_calls; }
-  void ApplyFontBold() override { ++screen.platform_calls; }
+  void ApplyBackColor() override {}
+  void ApplyValue() override { screen.applied += "Value "; }
+  void ApplyFontBold() override { screen.applied += "FontBold "; }
 };
 
 struct CommandButton : Toolkit::CommandButton {
@@ -73,7 +72,7 @@ struct CommandButton : Toolkit::CommandButton {
   using Toolkit::CommandButton::NotePressed;
   bool Visible() const override { return screen.is_on; }
   void SetFocus() override { screen.focus = this; }
-  void ApplyEnabled() override { ++screen.platform_calls; }
+  void ApplyEnabled() override { screen.applied += "Enabled "; }
   bool HasFocus() const override { return screen.focus == this; }
 };
 
@@ -82,15 +81,11 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   Desktop() { screen = {}; }
 
   std::map<Text, Toolkit::Control*> controls;
-  std::optional<Box> box;
+  Box box;  // the last one, or nothing
   Text clipboard;
   int milliseconds = 0;  // between two ticks
-  bool has_ended = false;
+  int ends = 0;          // of the program
 
-  template <class T>
-  T& The(View name) const {
-    return dynamic_cast<T&>(*controls.at(Text(name)));
-  }
   Toolkit::Window& MainWindow() override { return *this; }
   Toolkit::Timer& MainTimer() override { return *this; }
   std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override {
@@ -106,13 +101,13 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
     return control;
   }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
-    EXPECT_FALSE(box.has_value()) << "two boxes at once";
+    EXPECT_EQ(box, Box()) << "two boxes at once";
     box = Box(text, title, icon);
   }
   void SetClipboardText(View text) override { clipboard = text; }
-  void EndProgram() override { has_ended = true; }
-  void ApplyCaption() override { ++screen.platform_calls; }
-  void ApplyBackColor() override { ++screen.platform_calls; }
+  void EndProgram() override { ++ends; }
+  void ApplyCaption() override {}
+  void ApplyBackColor() override {}
   void Enable(int pause) override { milliseconds = pause; }
 
   Toolkit::OptionGroup options;

@@ -1,65 +1,18 @@
-// What toolkit.h promises on every platform, on bare controls in memory.
+// What toolkit.h promises of a text box. What it promises of the rest shows in the form's tests.
 #include "memory_toolkit.h"
 
-struct Toolkits : testing::Test {
-  Memory::Desktop window;
-  Memory::Label label{u"stored"};
-  Memory::TextBox box{u"stored"};
-  Memory::List list;
-  Memory::OptionButton first{window.options}, second{window.options};
-  Memory::CommandButton button{u"button"}, heir{u"heir"};
-};
-
-TEST_F(Toolkits, SelectionsFromCodeClickAlways) {
-  std::string clicks;
-  list.Click = [&] { clicks += "list "; };
-  first.Click = [&] { clicks += "first "; };
-  second.Click = [&] { clicks += "second "; };
-  list.SetListIndex(0);
-  list.SetListIndex(0);
-  first.Select();
-  first.Select();
-  EXPECT_EQ(clicks, "list list first first ");
-
-  // The user's pick of an option counts when it is another.
-  clicks.clear();
-  first.NoteChosen();
-  second.NoteChosen();
-  EXPECT_EQ(clicks, "second ");
-  EXPECT_FALSE(first.Value());
-}
-
-TEST_F(Toolkits, AValueThatIsThereDoesNotReachThePlatform) {
-  const std::tuple<const char*, std::function<void()>> rows[] = {
-      {"caption of a window", [&] { window.SetCaption(u"new"); }},
-      {"colour of a window", [&] { window.SetBackColor(0xE8F0); }},
-      {"caption of a label", [&] { label.SetCaption(u"new"); }},
-      {"text of a box", [&] { box.SetText(u"stores"); }},
-      {"selection of a list", [&] { list.SetListIndex(0); }},
-      {"selection of an option", [&] { first.Select(); }},
-      {"weight of an option", [&] { first.SetFontBold(true); }},
-      {"state of a button", [&] { button.SetEnabled(false); }},
-  };
-  for (const auto& [property, set] : rows) {
-    Memory::screen.platform_calls = 0;
-    set();
-    set();
-    EXPECT_EQ(Memory::screen.platform_calls, 1) << property;
-  }
-}
-
-TEST_F(Toolkits, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
+TEST(TextBoxes, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
   using Stretch = std::pair<int, int>;
-  const std::tuple<View, Stretch, View, Stretch> rows[] = {
+  const std::tuple<Text, Stretch, Text, Stretch> rows[] = {
       // clang-format off
-      {u"2026", {1, 3}, u"2026", {1, 3}},
+      // the text, what is selected in it, both of them trimmed
       {u"  2026 ", {3, 5}, u"2026", {1, 3}},
       {u"  2026 ", {0, 7}, u"2026", {0, 4}},
-      {u"20 26  ", {2, 2}, u"20 26", {2, 2}},
       {u"   ", {1, 2}, u"", {0, 0}},
       {u"\t5", {2, 2}, u"\t5", {2, 2}},
       // clang-format on
   };
+  Memory::TextBox box(u"");
   for (const auto& [before, selected, after, still_selected] : rows) {
     SCOPED_TRACE(testing::PrintToString(before));
     box.text = before;
@@ -70,40 +23,24 @@ TEST_F(Toolkits, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
   }
 }
 
-TEST_F(Toolkits, KeysCountWhereTheyWentDown) {
-  enum KeyEvent { Down, Repeat, Up, FocusLost };
-  const std::tuple<const char*, std::vector<KeyEvent>, int> rows[] = {
-      {"a press", {Down, Up}, 1},
-      {"a key held down", {Down, Repeat, Repeat, Up}, 1},
-      {"a key-up without its key-down", {Up}, 0},
-      {"a key that went down elsewhere", {Repeat, Up}, 0},
-      {"a second key-up", {Down, Up, Up}, 1},
-      {"the focus was elsewhere meanwhile", {Down, FocusLost, Up}, 0},
+TEST(TextBoxes, KeysCountWhereTheyWentDown) {
+  const std::tuple<std::string, int> rows[] = {
+      // What the box sees of a key, and how often that counts. D: the key goes down, R: it repeats,
+      // U: it comes up, F: the box loses the focus.
+      {"DU", 1}, {"DRRU", 1}, {"U", 0}, {"RU", 0}, {"DUU", 1}, {"DFU", 0},
   };
-  for (const auto& [what, events, key_ups] : rows) {
-    SCOPED_TRACE(what);
-    Memory::TextBox box(u"");
+  Memory::TextBox box(u"");
+  for (const auto& [events, key_ups] : rows) {
     int raised = 0;
-    box.KeyUp = [&](std::int16_t, std::int16_t) { ++raised; };
-    for (const KeyEvent event : events) {
-      if (event == Down) box.NoteKeyDown(Toolkit::EnterKey, false);
-      if (event == Repeat) box.NoteKeyDown(Toolkit::EnterKey, true);
-      if (event == Up) box.NoteKeyUp(Toolkit::EnterKey, 0);
-      if (event == FocusLost) box.NoteFocusLost();
+    box.KeyUp = [&](std::int16_t key, std::int16_t shift) {
+      raised += key == Toolkit::EnterKey && shift == 1;
+    };
+    for (const char event : events) {
+      if (event == 'D') box.NoteKeyDown(Toolkit::EnterKey, false);
+      if (event == 'R') box.NoteKeyDown(Toolkit::EnterKey, true);
+      if (event == 'U') box.NoteKeyUp(Toolkit::EnterKey, 1);
+      if (event == 'F') box.NoteFocusLost();
     }
-    EXPECT_EQ(raised, key_ups);
+    EXPECT_EQ(raised, key_ups) << events;
   }
-}
-
-TEST_F(Toolkits, AButtonThatTurnsDisabledHandsTheFocusOn) {
-  button.FocusHeir = &heir;
-  button.Click = [] { ADD_FAILURE() << "pressed while it is disabled"; };
-  Memory::screen.focus = &button;
-  button.SetEnabled(false);
-  EXPECT_EQ(Memory::screen.focus, &heir);
-  button.NotePressed();
-  button.SetEnabled(true);
-  Memory::screen.focus = nullptr;
-  button.SetEnabled(false);
-  EXPECT_EQ(Memory::screen.focus, nullptr) << "the focus was elsewhere";
 }
