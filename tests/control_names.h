@@ -1,8 +1,9 @@
 // Texts, and the names by which the tests call the controls.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include "layout.h"
-#include "text_printer.h"
 
 using Text = std::u16string;
 using View = std::u16string_view;

@@ -102,7 +102,7 @@ struct RealWindow : testing::Test {
 
   // Where the next key goes, all of it from one look at the thread in front: the name of a control,
   // AtBox while a message box is in front and its button has the focus, or nothing.
-  static constexpr View AtBox = u"the button of a box";
+  static inline const Text AtBox = u"the button of a box";
   Text Focus() const {
     SendMessageW(window, WM_NULL, 0, 0);
     GUITHREADINFO front = {};
@@ -110,7 +110,7 @@ struct RealWindow : testing::Test {
     GetGUIThreadInfo(0, &front);
     if (!front.hwndFocus) return u"";
     if (front.hwndActive != window) {
-      return GetWindow(front.hwndActive, GW_OWNER) == window ? Text(AtBox) : u"";
+      return GetWindow(front.hwndActive, GW_OWNER) == window ? AtBox : u"";
     }
     // A list has the focus also when the line in it has.
     const HWND parent = GetParent(front.hwndFocus);
@@ -120,7 +120,7 @@ struct RealWindow : testing::Test {
   }
 
   // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.
-  void GoTo(View control) const {
+  void GoTo(const Text& control) const {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
     EXPECT_SEEN(Focus(), control);
   }

@@ -51,7 +51,7 @@ TEST_F(RealWindow, NamesStandBeforeTheirControls) {
     if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
     SCOPED_TRACE(testing::PrintToString(NameOf(row)));
     const HWND name = GetWindow(Control(NameOf(row)), GW_HWNDPREV);
-    EXPECT_EQ(TextOf(name), row.spoken_name);
+    EXPECT_EQ(TextOf(name), Text(row.spoken_name));
     EXPECT_EQ(IsWindowVisible(name), FALSE);
   }
 }
