@@ -14,10 +14,9 @@
 
 namespace Karvel_Sorand {
 
-// One date. In a fresh record all numbers are 0 and all texts empty; one that is used again
-// allocates nothing. The three types follow from the numbers, and the record carries them all the
-// same: the window's lists show type and number together, and CheckLksDate holds the one against
-// the other.
+// One date. In a fresh record all numbers are 0 and all texts empty. The three types follow from
+// the numbers, and the record carries them all the same: the window's lists show type and number
+// together, and CheckLksDate holds the one against the other.
 struct LksDate {
   std::int16_t GMet = 0;       // great cycle, 1 or 2
   std::u16string MetType;      // type of the Metonic cycle: "A", "B", "C"

@@ -11,8 +11,7 @@ constexpr std::int32_t DaysBeforeMonth(std::int32_t month) {
   return (59 * (month - 1) + 1) / 2;
 }
 
-// Sets the fields GMet to Day from `jdn`; statuses and arguments as for JdnToLksDate. No label is
-// written, so nothing is allocated.
+// Sets the fields GMet to Day from `jdn`, and no label; statuses and arguments as for JdnToLksDate.
 std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe);
 
 // Makes `label` the label of `date`. `label` may be the date's own Label, which is not read.
