@@ -107,10 +107,8 @@ TEST_F(Form, RefusesWithABox) {
       {Solar, u"May 7 --5", NoSteps, u"cmdConvert", u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
       {Gregorian, u"February 30 2010", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
       {Solar, u"February 29 1900", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
-      {Gregorian, u"December 18 8265", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
       // Years that no one can type, up to the last day that 32 bits can count and beyond.
       {Gregorian, u"May 7 -10000", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
-      {Gregorian, u"May 7 100000", Steps, u"cmdTBF2", u"Date too late", u"Forward one day", Tells},
       {Solar, u"June 2 5874898", Steps, u"cmdTBF2", u"Date too late", u"Forward one day", Tells},
       {Solar, u"June 3 5874898", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
       {Gregorian, u"May 7 2147483647", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
@@ -118,7 +116,6 @@ TEST_F(Form, RefusesWithABox) {
       {Lunar, u"GMet-2 B 99999999999999999999 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B  LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B -1 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
-      {Lunar, u"GMet-2 B 400 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 x 12 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nMetonic cycle 12 is of type B.", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B 12 x LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -5", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B 12 LYC-15 LB-6 30", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.", u"Invalid input", Warns},
@@ -232,7 +229,9 @@ TEST_F(Form, ChoosingACalendarChangesNoDate) {
   const Text seen = All();
   for (const int chosen : {Lunar, Solar, Gregorian}) {
     auto& option = dynamic_cast<Memory::OptionButton&>(form.optCalendar[chosen]);
+    Memory::screen.applied.clear();
     option.NoteChosen();
+    EXPECT_EQ(Memory::screen.applied, "Value Value FontBold FontBold ");  // of the old and the new
     EXPECT_EQ(Memory::screen.focus, &form.cmdConvert);
     for (const int each : {Gregorian, Solar, Lunar}) {
       EXPECT_EQ(form.optCalendar[each].FontBold(), each == chosen) << each << " of " << chosen;
