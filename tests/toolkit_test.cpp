@@ -25,9 +25,9 @@ TEST(TextBoxes, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
 
 TEST(TextBoxes, KeysCountWhereTheyWentDown) {
   const std::tuple<std::string, int> rows[] = {
-      // What the box sees of a key, and how often that counts. D: the key goes down, R: it repeats,
-      // U: it comes up, F: the box loses the focus.
-      {"DU", 1}, {"DRRU", 1}, {"U", 0}, {"RU", 0}, {"DUU", 1}, {"DFU", 0},
+      // What the box sees of Enter, and how often that counts. D: it goes down, R: it repeats,
+      // U: it comes up, O: another key goes down, F: the box loses the focus.
+      {"DU", 1}, {"DRRU", 1}, {"OU", 0}, {"RU", 0}, {"DUU", 1}, {"DFU", 0},
   };
   Memory::TextBox box(u"");
   for (const auto& [events, key_ups] : rows) {
@@ -37,6 +37,7 @@ TEST(TextBoxes, KeysCountWhereTheyWentDown) {
     };
     for (const char event : events) {
       if (event == 'D') box.NoteKeyDown(Toolkit::EnterKey, false);
+      if (event == 'O') box.NoteKeyDown(9, false);
       if (event == 'R') box.NoteKeyDown(Toolkit::EnterKey, true);
       if (event == 'U') box.NoteKeyUp(Toolkit::EnterKey, 1);
       if (event == 'F') box.NoteFocusLost();

@@ -107,13 +107,12 @@ TEST_F(Form, RefusesWithABox) {
       {Solar, u"May 7 --5", NoSteps, u"cmdConvert", u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
       {Gregorian, u"February 30 2010", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
       {Solar, u"February 29 1900", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
-      // Years that no one can type, up to the last day that 32 bits can count and beyond.
+      // Years and a cycle that no one can type: the last day that 32 bits can count, and what lies beyond; 12 and 65536.
       {Gregorian, u"May 7 -10000", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
       {Solar, u"June 2 5874898", Steps, u"cmdTBF2", u"Date too late", u"Forward one day", Tells},
       {Solar, u"June 3 5874898", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
-      {Gregorian, u"May 7 2147483647", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
       {Gregorian, u"May 7 -99999999999999999999", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
-      {Lunar, u"GMet-2 B 99999999999999999999 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 65548 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B  LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B -1 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
       {Lunar, u"GMet-2 x 12 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nMetonic cycle 12 is of type B.", u"Invalid input", Warns},
@@ -196,31 +195,33 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
   const Text Months = u"January February March April May June July August September October November December ";
   const Text Days = u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 31 ";
   // clang-format on
-  const std::tuple<Text, Text, int, Text> rows[] = {
+  constexpr int NoRow = -1;
+  const std::tuple<Text, Text, int> rows[] = {
       // clang-format off
-      // the list, its items, its row, what a choice leaves of the weekday there
-      {u"cboMonth0", Months, Gregorian, u""},
-      {u"cboMonth1", Months, Solar, u""},
-      {u"cboMonth2", u"LA-1 LB-2 LA-3 LB-4 LA-5 LB-6 LA-7 LB-8 LA-9 LB-10 LA-11 LA-12 LB-12 LA-13 ", Lunar, u""},
-      {u"cboDay0", Days, Gregorian, u""},
-      {u"cboDay1", Days, Solar, u""},
-      {u"cboDay2", Days.substr(0, Days.size() - 3), Lunar, u""},
-      {u"cboYearInMet", u"LYA-1 LYB-1 LYA-2 LYC-3 LYC-4 LYB-5 LYA-6 LYC-7 LYA-8 LYB-9 LYA-10 LYC-11 LYC-12 LYB-13 LYA-14 LYC-15 LYA-16 LYA-17 LYA-18 LYA-19 LYC-19 ", Lunar, u""},
-      {u"cboMType", u"A B C ", Lunar, u"Someday"},
-      {u"cboGMet", u"GMet-1 GMet-2 ", Lunar, u""},
+      // the list, its items, the row whose weekday a choice blanks
+      {u"cboMonth0", Months, Gregorian},
+      {u"cboMonth1", Months, Solar},
+      {u"cboMonth2", u"LA-1 LB-2 LA-3 LB-4 LA-5 LB-6 LA-7 LB-8 LA-9 LB-10 LA-11 LA-12 LB-12 LA-13 ", Lunar},
+      {u"cboDay0", Days, Gregorian},
+      {u"cboDay1", Days, Solar},
+      {u"cboDay2", Days.substr(0, Days.size() - 3), Lunar},
+      {u"cboYearInMet", u"LYA-1 LYB-1 LYA-2 LYC-3 LYC-4 LYB-5 LYA-6 LYC-7 LYA-8 LYB-9 LYA-10 LYC-11 LYC-12 LYB-13 LYA-14 LYC-15 LYA-16 LYA-17 LYA-18 LYA-19 LYC-19 ", Lunar},
+      {u"cboMType", u"A B C ", NoRow},
+      {u"cboGMet", u"GMet-1 GMet-2 ", Lunar},
       // clang-format on
   };
-  for (const auto& [name, items, row, weekday] : rows) {
+  for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));
     auto& list = dynamic_cast<Memory::List&>(*desktop.controls.at(name));
     Text seen;
     for (int index = 0; index < list.ListCount(); ++index) seen.append(list.Item(index)) += u' ';
     EXPECT_EQ(seen, items);
-    form.lblDayOfWeek[row].SetCaption(u"Someday");
+    for (const int each : {0, 1, 2}) form.lblDayOfWeek[each].SetCaption(u"Someday");
     Memory::screen.focus = nullptr;
     list.NoteChosen();
-    EXPECT_EQ(form.lblDayOfWeek[row].Caption(), weekday);
-    EXPECT_EQ(Memory::screen.focus, weekday.empty() ? &form.cmdConvert : nullptr);
+    for (const int each : {0, 1, 2})
+      EXPECT_EQ(form.lblDayOfWeek[each].Caption().empty(), each == row) << "row " << each;
+    EXPECT_EQ(Memory::screen.focus, row == NoRow ? nullptr : &form.cmdConvert);
   }
 }
 
@@ -239,6 +240,8 @@ TEST_F(Form, ChoosingACalendarChangesNoDate) {
     Memory::screen.focus = &option;
     option.NoteChosen();
     EXPECT_EQ(Memory::screen.focus, &option) << "that was chosen already";
+    option.Select();
+    EXPECT_EQ(Memory::screen.focus, &form.cmdConvert) << "from code";
   }
   EXPECT_EQ(All(), seen);
 }
