@@ -10,6 +10,8 @@
 
 #include <windows.h>
 
+#include <process.h>
+
 #include <algorithm>
 #include <vector>
 
@@ -69,17 +71,13 @@ inline void Click(HWND window) {
 
 // Each test starts the program anew.
 struct RealWindow : testing::Test {
-  PROCESS_INFORMATION process = {};
+  HANDLE process = nullptr;
   HWND window = nullptr;
 
   void SetUp() override {
     SetProcessDpiAwarenessContext(DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2);  // true pixels
     SetCursorPos(0, 0);
-    wchar_t command[] = L"tandem.exe";  // which lies beside the test, wherever that is run from
-    STARTUPINFOW start = {};
-    start.cb = sizeof start;
-    CreateProcessW(nullptr, command, nullptr, nullptr, FALSE, 0, nullptr, nullptr, &start,
-                   &process);
+    process = reinterpret_cast<HANDLE>(_spawnl(_P_NOWAIT, "tandem.exe", "tandem.exe", nullptr));
     const auto first_screen = [this] {
       window = FindWindowW(Win32::WindowClass, nullptr);
       return !Read(u"txbOutput").empty() && Focus() == u"cmdConvert";
@@ -87,8 +85,8 @@ struct RealWindow : testing::Test {
     ASSERT_TRUE(Await(first_screen, true)) << "tandem.exe shows no first screen";
   }
   void TearDown() override {
-    TerminateProcess(process.hProcess, 99);
-    WaitForSingleObject(process.hProcess, INFINITE);
+    TerminateProcess(process, 99);
+    WaitForSingleObject(process, INFINITE);
   }
 
   HWND Control(View name) const {
@@ -108,15 +106,14 @@ struct RealWindow : testing::Test {
     GUITHREADINFO front = {};
     front.cbSize = sizeof front;
     GetGUIThreadInfo(0, &front);
-    if (!front.hwndFocus) return u"";
-    if (front.hwndActive != window) {
-      return GetWindow(front.hwndActive, GW_OWNER) == window ? AtBox : u"";
+    const HWND focus = front.hwndFocus;
+    if (focus && GetWindow(front.hwndActive, GW_OWNER) == window) return AtBox;
+    for (const Toolkit::StoredControl& row : Layout::Rows) {
+      // A list has the focus also when the line in it has.
+      const HWND control = Control(NameOf(row));
+      if (focus && (focus == control || IsChild(control, focus))) return NameOf(row);
     }
-    // A list has the focus also when the line in it has.
-    const HWND parent = GetParent(front.hwndFocus);
-    const int id = GetDlgCtrlID(parent == window ? front.hwndFocus : parent);
-    const auto row = static_cast<std::size_t>(id - Win32::FirstControlId);
-    return row < std::size(Layout::Rows) ? NameOf(Layout::Rows[row]) : u"";
+    return u"";
   }
 
   // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.
