@@ -41,6 +41,7 @@ TEST_F(Dates, EveryDayOfEveryYear) {
   EuroDateToJdn(other);
   EXPECT_TRUE(other.day == 3 && other.valid == 0);
 }
+
 TEST_F(Dates, Names) {
   std::u16string weekdays;
   for (std::int16_t number = -1; number <= 7; ++number) {

@@ -19,8 +19,7 @@ TEST_F(Lunar, EveryDayThereAndBack) {
   const std::u16string years[] = {u"BACCBACABACCBACAAAC", u"AACCBACABACCBACAAAC",
                                   u"BACCBACABACCBACAAAA"};
   std::int32_t jdn = 7333;
-  LksDate date{};
-  LksDate there{};
+  LksDate date, there;
   for (date.GMet = 1; date.GMet <= GreatCycleCount; ++date.GMet) {
     date.MetNum = 0;
     for (const char16_t met_type : cycles) {
@@ -70,6 +69,7 @@ TEST_F(Lunar, OfAllCombinationsExactlyTheDaysAreAccepted) {
                   if (CheckLksDate(date) == 0) ++accepted;
   EXPECT_EQ(accepted, GreatCycleCount * 2366404);
 }
+
 TEST_F(Lunar, DaysOutsideTheCalendar) {
   LksDate date{};
   EXPECT_EQ(JdnToLksDate(1721426, date, false), 0);

@@ -9,7 +9,6 @@ TEST(Text, CharactersAndNumbers) {
   EXPECT_EQ(FirstNotInSet(u"abc", 3, u""), 1);
   EXPECT_EQ(FirstNotInSet(u"12a4", 0, Digits), 3);
   EXPECT_EQ(FirstNotInSet(u"a2a4", 2, Digits), 3);
-  EXPECT_EQ(FirstNotInSet(u"12a4", 4, Digits), 0);
   EXPECT_EQ(CountOccurrences(u"AAA", u"AA"), 1);
   EXPECT_EQ(CountOccurrences(u"A", u""), 0);
   EXPECT_EQ(DecimalValue(u"12a4"), 12);

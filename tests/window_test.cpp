@@ -106,12 +106,10 @@ TEST_F(Form, RefusesWithABox) {
       {Gregorian, u"May 7 1.5", NoSteps, u"cmdConvert", u"Gregorian  date is invalid.", u"Invalid input", Warns},
       {Solar, u"May 7 --5", NoSteps, u"cmdConvert", u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
       {Gregorian, u"February 30 2010", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
-      {Solar, u"February 29 1900", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
       // Years and a cycle that no one can type: the last day that 32 bits can count, and what lies beyond; 12 and 65536.
       {Gregorian, u"May 7 -10000", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
       {Solar, u"June 2 5874898", Steps, u"cmdTBF2", u"Date too late", u"Forward one day", Tells},
       {Solar, u"June 3 5874898", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
-      {Gregorian, u"May 7 -99999999999999999999", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
       {Lunar, u"GMet-2 B 65548 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B  LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B -1 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
@@ -141,7 +139,6 @@ TEST_F(Form, RefusesWithABox) {
 
 TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
   EXPECT_EQ(desktop.Caption(), u"Tandem Karvel-Sorand Calendar, Version 2.1");
-  EXPECT_EQ(form.lblCopyright.Caption(), u"The notice");
   Text captions = form.lblM.Caption() + form.lblDash.Caption();
   for (const auto& row : Layout::Rows) {
     if (row.kind >= Toolkit::Kind::OptionButton) captions.append(u"|").append(row.text);
