@@ -84,6 +84,7 @@ struct RealWindow : testing::Test {
     ASSERT_TRUE(Await(first_screen, true)) << "tandem.exe shows no first screen";
   }
   void TearDown() override {
+    if (process == INVALID_HANDLE_VALUE) return;  // it did not start
     TerminateProcess(process, 99);
     WaitForSingleObject(process, INFINITE);
   }

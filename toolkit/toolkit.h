@@ -32,8 +32,8 @@
 //  - The texts in a row are literals: they end with a zero. Any other view that comes in need not,
 //    and does not live longer than the call.
 //  - In a list a choice counts when it is made: going over the items of an open list is none, and
-//    Escape restores what was selected before it was opened. While the line holds typed text
-//    nothing is selected: ListIndex is -1, until an item is chosen. What the line shows and what
+//    Escape restores what counted before. While the line holds typed text nothing is selected:
+//    ListIndex is -1, until an item is chosen. What the line of a closed list shows and what
 //    ListIndex says never differ otherwise.
 //  - Tab and Shift+Tab go round the controls that can be used, in the order of the rows; the option
 //    buttons are one stop, and arrows choose among them. Up, Down and the wheel choose in a closed
@@ -45,8 +45,8 @@
 //  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
 //    control that has it when the window comes back.
 //  - All events come on the thread that made the Desktop, one after the other: each handler runs to
-//    its end. While it shows a message box there is no tick; the next one comes within a second of
-//    the box's end.
+//    its end, unless a program from outside closes the window behind a message box. While a box is
+//    open there is no tick; the next one comes within a second of its end.
 #pragma once
 
 #include <bitset>

@@ -62,7 +62,7 @@ class List : public Toolkit::List, public Native {
   void TakeMarks();
 
   int chosen_ = -1;            // the last choice, whether the user's or the program's
-  bool open_ = false;          // the list is dropped down
+  bool open_ = false;          // the list is dropped down, or what that came to has not settled
   bool accepted_ = true;       // the list was closed with a choice, not left with Escape
   std::u16string typed_text_;  // what the line reads while nothing is chosen
 };

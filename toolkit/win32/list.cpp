@@ -76,6 +76,7 @@ int List::ListIndex() const {
 void List::Notified(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
+      if (ListIndex() >= 0) chosen_ = ListIndex();  // another program may have chosen
       open_ = true;
       accepted_ = true;
       break;
@@ -87,7 +88,6 @@ void List::Notified(WORD code) {
       if (open_) accepted_ = false;
       break;
     case CBN_CLOSEUP:
-      open_ = false;
       PostSettle();
       break;
     case CBN_SELCHANGE:
@@ -111,6 +111,7 @@ void List::Notified(WORD code) {
 // What counts and what is shown become the same: the item that was chosen, or what stood there
 // before. An item can be chosen by the first letters of its name alone, typed into the open list.
 void List::Settled() {
+  open_ = Send(CB_GETDROPPEDSTATE) != 0;
   if (open_) return;
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
   const bool is_choice = accepted_ && now >= 0 && now != chosen_;

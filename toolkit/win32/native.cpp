@@ -33,8 +33,8 @@ HWND Made(HWND window) {
 }
 
 int DpiOf(HWND window) {
-  // Windows 7 and 8 have one DPI for everything. Windows 8.1 has one for each monitor and tells it
-  // when the window comes to another than the main one.
+  // Windows 7 and 8 have one DPI for everything. Windows 8.1 has one for each monitor: this is that
+  // of the main one when the user signed in, and WM_DPICHANGED tells of any other.
   static const auto get_dpi = SystemFunction<UINT(WINAPI*)(HWND)>(L"user32.dll", "GetDpiForWindow");
   if (get_dpi) return static_cast<int>(get_dpi(window));
   const HDC screen = GetDC(nullptr);

@@ -160,18 +160,16 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       Fit();
       break;
     case WM_MOVE:
+    case WM_DISPLAYCHANGE:
       Fit();
       break;
     case WM_DPICHANGED:
       MoveToDpi(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
       return 0;
-    case WM_SETTINGCHANGE:
-      if (wparam != SPI_SETWORKAREA && wparam != SPI_SETNONCLIENTMETRICS &&
-          wparam != SPI_SETHIGHCONTRAST) {
-        break;
-      }
+    case WM_SETTINGCHANGE:  // the work area among others
+      Fit();
+      if (wparam != SPI_SETNONCLIENTMETRICS && wparam != SPI_SETHIGHCONTRAST) break;
       [[fallthrough]];
-    case WM_DISPLAYCHANGE:
     case WM_THEMECHANGED:
       FitAnew();
       break;

@@ -54,8 +54,9 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   HWND hwnd_ = nullptr;
   int dpi_ = 96;
   int monitor_dpi_ = 96;
-  RECT fitted_area_ = {};  // the work area that the window was fitted into
-  bool must_fit_ = true;   // whatever that area is
+  HMONITOR fitted_monitor_ = nullptr;  // the monitor on which the window was fitted
+  RECT fitted_area_ = {};              // the work area that it had then
+  bool must_fit_ = true;               // even if both are the same
   bool is_dragged_ = false;
   std::vector<Native*> controls_;
   HWND remembered_focus_ = nullptr;

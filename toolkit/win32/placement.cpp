@@ -10,11 +10,15 @@ namespace {
 
 constexpr int LowestDpi = 60;  // what is drawn smaller cannot be read
 
-RECT WorkArea(HWND window) {
-  MONITORINFO monitor = {};
-  monitor.cbSize = sizeof monitor;
-  GetMonitorInfoW(MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &monitor);
-  return monitor.rcWork;
+HMONITOR MonitorOf(HWND window) {
+  return MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST);
+}
+
+RECT WorkArea(HMONITOR monitor) {
+  MONITORINFO info = {};
+  info.cbSize = sizeof info;
+  GetMonitorInfoW(monitor, &info);
+  return info.rcWork;
 }
 
 // The place next to `wanted` where something of that length lies between the two ends. If it is too
@@ -26,7 +30,7 @@ int Between(LONG first, LONG last, int length, LONG wanted) {
 }  // namespace
 
 void NativeWindow::Centre() {
-  const RECT area = WorkArea(hwnd_);
+  const RECT area = WorkArea(MonitorOf(hwnd_));
   RECT outer;
   GetWindowRect(hwnd_, &outer);
   const int width = outer.right - outer.left;
@@ -42,10 +46,14 @@ void NativeWindow::Centre() {
 // this area; a window that is dragged must not change its size, which could bring it back to the
 // monitor that it comes from, and a minimised or maximised one is on its way to its own size.
 void NativeWindow::Fit() {
-  const RECT area = WorkArea(hwnd_);
+  const HMONITOR monitor = MonitorOf(hwnd_);
+  const RECT area = WorkArea(monitor);
   if (is_dragged_ || IsIconic(hwnd_) || IsZoomed(hwnd_)) return;
   if (!must_fit_ && EqualRect(&area, &fitted_area_)) return;
-  bool must_fit = std::exchange(must_fit_, false);
+  // Moved to another monitor it may lie across both; on its own the area has changed.
+  bool may_stay = !must_fit_ && monitor != fitted_monitor_;
+  must_fit_ = false;
+  fitted_monitor_ = monitor;
   fitted_area_ = area;
   // What the frame adds is seen once the window is larger than its frame, so the first size of a
   // new window is a guess.
@@ -58,22 +66,21 @@ void NativeWindow::Fit() {
     const int frame_height = outer.bottom - outer.top - client.bottom;
     const auto width = [&] { return frame_width + Pixels(client_width_, dpi_); };
     const auto height = [&] { return frame_height + Pixels(client_height_, dpi_); };
-    const auto lies_inside = [&] {
+    const auto has_room = [&] {
       return width() <= area.right - area.left && height() <= area.bottom - area.top;
     };
     const int dpi_before = std::exchange(dpi_, monitor_dpi_);
-    while (dpi_ > LowestDpi && !lies_inside()) --dpi_;
-    // The user may leave it across two monitors.
-    if (!must_fit && dpi_ == dpi_before && lies_inside()) return;
-    must_fit = true;
+    while (dpi_ > LowestDpi && !has_room()) --dpi_;
+    if (may_stay && dpi_ == dpi_before && has_room()) return;
+    may_stay = false;
     SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(), outer.left),
                  Between(area.top, area.bottom, height(), outer.top), width(), height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE);
+                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   }
   PlaceControls();
 }
 
-// After a change of the desktop, the theme or the scale: at once, and again when the native
+// After a change of the theme or the scale: at once, and again when the native
 // controls have heard of it, too. They may then measure themselves anew.
 void NativeWindow::FitAnew() {
   must_fit_ = true;
@@ -89,7 +96,7 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
   // The whole place at once: a window that is resized where it was may change its monitor again.
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
-  PlaceControls();
+  if (is_dragged_) PlaceControls();
   FitAnew();
 }
 
