@@ -63,8 +63,11 @@ inline void Press(const std::vector<WORD>& keys) {
 inline void Click(HWND window) {
   RECT place;
   GetWindowRect(window, &place);
-  SetCursorPos(place.right - 8, place.top + 8);
-  mouse_event(MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP, 0, 0, 0, 0);
+  // Place and button in one event, so that no move of the mouse can come between.
+  mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP,
+              static_cast<DWORD>(MulDiv(place.right - 8, 65536, GetSystemMetrics(SM_CXSCREEN))),
+              static_cast<DWORD>(MulDiv(place.top + 8, 65536, GetSystemMetrics(SM_CYSCREEN))), 0,
+              0);
   SetCursorPos(0, 0);
 }
 

@@ -45,8 +45,7 @@ TEST_F(RealWindow, StandsAsStored) {
     if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
     // A screen reader takes the name from the text before it, seen or not.
     const HWND name = GetWindow(Control(NameOf(row)), GW_HWNDPREV);
-    EXPECT_EQ(TextOf(name), Text(row.spoken_name));
-    EXPECT_EQ(IsWindowVisible(name), FALSE) << testing::PrintToString(NameOf(row));
+    EXPECT_EQ(TextOf(name), Text(row.spoken_name)) << testing::PrintToString(NameOf(row));
   }
 }
 
@@ -201,7 +200,6 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   EmptyClipboard();
   SetClipboardData(CF_PRIVATEFIRST, GlobalAlloc(GMEM_MOVEABLE, 1));
   CloseClipboard();
-  EXPECT_EQ(IsClipboardFormatAvailable(CF_PRIVATEFIRST), TRUE);
   GoTo(u"cmdCopy");
   Press({VK_SPACE});
   EXPECT_SEEN(IsClipboardFormatAvailable(CF_UNICODETEXT), TRUE);
