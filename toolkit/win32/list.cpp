@@ -23,6 +23,15 @@ List::List(NativeWindow& window, const Toolkit::StoredControl& row)
 }
 
 void List::Place() {
+  // An open list that gets its size or its font may close and say nothing, keep the mouse, or take
+  // the item that is browsed: it is closed before, without a choice.
+  if (Send(CB_GETDROPPEDSTATE)) {
+    // Wine would give it the mouse when a button that is held on its arrow comes up.
+    if (GetCapture() == hwnd_) Send(WM_LBUTTONUP);
+    Send(CB_SHOWDROPDOWN, FALSE);
+    accepted_ = false;
+    Settled();
+  }
   const LRESULT marks = Send(CB_GETEDITSEL);
   Native::Place();
   const int height = Pixels(row_.height, window_.Dpi());
