@@ -85,7 +85,9 @@ int List::ListIndex() const {
 void List::Notified(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
-      if (ListIndex() >= 0) chosen_ = ListIndex();  // another program may have chosen
+      // What the line reads now counts afterwards: another program may have chosen or written it.
+      chosen_ = ListIndex();
+      if (chosen_ < 0) typed_text_ = TextOf(hwnd_);
       open_ = true;
       accepted_ = true;
       break;
