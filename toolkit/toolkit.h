@@ -38,10 +38,11 @@
 //  - Tab and Shift+Tab go round the controls that can be used, in the order of the rows; the option
 //    buttons are one stop, and arrows choose among them. Up, Down and the wheel choose in a closed
 //    list that has the focus; in an open one arrows browse and Enter takes the item. Enter and
-//    Space press the command button that has the focus; there is no default button. In a text box
-//    Ctrl+A selects all, and so does coming in by Tab, but not in one of several lines, where Enter
-//    and Ctrl+Tab type a line end and a tab. Elsewhere Enter does nothing of its own, and neither
-//    does Escape where no list is open.
+//    Space press the command button that has the focus; there is no default button. Enter that is
+//    held presses none again, whatever it did when it went down, and closes no message box. In a
+//    text box Ctrl+A selects all, and so does coming in by Tab, but not in one of several lines,
+//    where Enter and Ctrl+Tab type a line end and a tab. Elsewhere Enter does nothing of its own,
+//    and neither does Escape where no list is open.
 //  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
 //    control that has it when the window comes back.
 //  - All events come on the thread that made the Desktop, one after the other: each handler runs to

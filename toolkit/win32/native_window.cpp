@@ -21,6 +21,22 @@ HBRUSH BrushOf(Toolkit::Color color) {
   return made;
 }
 
+bool IsPushButton(HWND window) {
+  const LRESULT code = SendMessageW(window, WM_GETDLGCODE, 0, 0);
+  return (code & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON)) != 0;
+}
+
+// Sees what goes to the window and to a message box before the dialog manager does. Enter that is
+// held on repeats itself; it must not press the button, OK included, to which it has led.
+LRESULT CALLBACK LeaveOutHeldEnter(int code, WPARAM wparam, LPARAM lparam) {
+  const auto& message = *reinterpret_cast<const MSG*>(lparam);
+  if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && message.wParam == VK_RETURN &&
+      (HIWORD(message.lParam) & KF_REPEAT) && IsPushButton(message.hwnd)) {
+    return TRUE;
+  }
+  return CallNextHookEx(nullptr, code, wparam, lparam);
+}
+
 }  // namespace
 
 NativeWindow::NativeWindow(int client_width, int client_height)
@@ -57,6 +73,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
           SystemFunction<Change>(L"user32.dll", "SetDialogDpiChangeBehavior")) {
     set_behavior(hwnd_, DisableAll, DisableAll);
   }
+  SetWindowsHookExW(WH_MSGFILTER, LeaveOutHeldEnter, nullptr, GetCurrentThreadId());
   monitor_dpi_ = DpiOf(hwnd_);
   ShowIcons();
   Fit();
@@ -257,10 +274,7 @@ void NativeWindow::Command(WORD id, WORD code, HWND control) {
     // presses the button that has the focus. Escape comes as IDCANCEL and does nothing.
     control = Focus();
     code = BN_CLICKED;
-    if (!(SendMessageW(control, WM_GETDLGCODE, 0, 0) &
-          (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON))) {
-      return;
-    }
+    if (!IsPushButton(control)) return;
   }
   if (Native* const native = control ? Native::Of(control) : nullptr) native->Notified(code);
 }
