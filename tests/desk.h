@@ -100,6 +100,10 @@ struct RealWindow : testing::Test {
     return SendMessageW(Control(control), message, 0, 0);
   }
   Text Read(View control) const { return TextOf(Control(control)); }
+  // What the line of a list reads, the index, and whether the list is open.
+  std::tuple<Text, LRESULT, LRESULT> ListState(View list) const {
+    return {Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE)};
+  }
 
   // Where the next key goes, all of it from one look at the thread in front: the name of a control,
   // AtBox while a message box is in front and its button has the focus, or nothing.
@@ -123,6 +127,14 @@ struct RealWindow : testing::Test {
   void GoTo(const Text& control) const {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
     EXPECT_SEEN(Focus(), control);
+  }
+  // Tells the program of another scale as the system does, with a place in its own memory.
+  void TellScale(int dpi) const {
+    RECT place;
+    GetWindowRect(window, &place);
+    void* const there = VirtualAllocEx(process, nullptr, sizeof place, MEM_COMMIT, PAGE_READWRITE);
+    WriteProcessMemory(process, there, &place, sizeof place, nullptr);
+    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(there));
   }
   void Fill(View box, View text) const {  // as a program does, without keys
     SendMessageW(Control(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Text(text).c_str()));

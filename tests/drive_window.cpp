@@ -7,6 +7,30 @@
 
 using namespace Desk;
 using Toolkit::Kind;
+using Win32::Pixels;
+
+// That a key-down repeats itself, as the system says it.
+constexpr LPARAM Held = LPARAM{KF_REPEAT} << 16 | 1;
+
+// Every control where its row has it at this scale, and behind its name.
+void ExpectPlaces(const RealWindow& desk, int dpi) {
+  for (const Toolkit::StoredControl& row : Layout::Rows) {
+    RECT place;
+    GetWindowRect(desk.Control(NameOf(row)), &place);
+    MapWindowPoints(nullptr, desk.window, reinterpret_cast<POINT*>(&place), 2);
+    const LONG left = Pixels(row.container.left + row.left, dpi);
+    const LONG top = Pixels(row.container.top + row.top, dpi);
+    // A list may be wider than what is shown of it.
+    if (row.kind == Kind::List) place.right = left + Pixels(row.width, dpi);
+    EXPECT_EQ((std::array{place.left, place.top, place.right, place.bottom}),
+              (std::array{left, top, left + Pixels(row.width, dpi), top + Pixels(row.height, dpi)}))
+        << testing::PrintToString(NameOf(row));
+    if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
+    // A screen reader takes the name from the text before it, seen or not.
+    const HWND name = GetWindow(desk.Control(NameOf(row)), GW_HWNDPREV);
+    EXPECT_EQ(TextOf(name), Text(row.spoken_name)) << testing::PrintToString(NameOf(row));
+  }
+}
 
 // Also on a desktop that is too small for it: then it is drawn as large as it can be there.
 TEST_F(RealWindow, StandsAsStored) {
@@ -15,13 +39,12 @@ TEST_F(RealWindow, StandsAsStored) {
   GetClientRect(window, &client);
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
   const int dpi = MulDiv(client.right, 1440, ClientWidth);
-  const auto pixels = [](int twips, int at) { return LONG{Win32::Pixels(twips, at)}; };
   const LONG spare_width = work.right - work.left - (outer.right - outer.left);
   const LONG spare_height = work.bottom - work.top - (outer.bottom - outer.top);
-  const bool is_largest = pixels(ClientWidth, dpi + 1) - client.right > spare_width ||
-                          pixels(ClientHeight, dpi + 1) - client.bottom > spare_height;
+  const bool is_largest = Pixels(ClientWidth, dpi + 1) - client.right > spare_width ||
+                          Pixels(ClientHeight, dpi + 1) - client.bottom > spare_height;
   EXPECT_TRUE(is_largest || dpi == static_cast<int>(GetDpiForWindow(window))) << dpi;
-  EXPECT_EQ(client.bottom, pixels(ClientHeight, dpi));
+  EXPECT_EQ(client.bottom, Pixels(ClientHeight, dpi));
   EXPECT_GE(spare_width, 0);
   EXPECT_GE(spare_height, 0);
   EXPECT_NEAR(outer.left - work.left, work.right - outer.right, 1);
@@ -31,22 +54,7 @@ TEST_F(RealWindow, StandsAsStored) {
   EXPECT_EQ(Read(u"lblCopyright"), PROGRAM_COPYRIGHT);
   EXPECT_EQ(Ask(u"txbYearCE1", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
-    RECT place;
-    GetWindowRect(Control(NameOf(row)), &place);
-    MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
-    const LONG left = pixels(row.container.left + row.left, dpi);
-    const LONG top = pixels(row.container.top + row.top, dpi);
-    // A list may be wider than what is shown of it.
-    if (row.kind == Kind::List) place.right = left + pixels(row.width, dpi);
-    EXPECT_EQ((std::array{place.left, place.top, place.right, place.bottom}),
-              (std::array{left, top, left + pixels(row.width, dpi), top + pixels(row.height, dpi)}))
-        << testing::PrintToString(NameOf(row));
-    if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
-    // A screen reader takes the name from the text before it, seen or not.
-    const HWND name = GetWindow(Control(NameOf(row)), GW_HWNDPREV);
-    EXPECT_EQ(TextOf(name), Text(row.spoken_name)) << testing::PrintToString(NameOf(row));
-  }
+  ExpectPlaces(*this, dpi);
 }
 
 TEST_F(RealWindow, TabGoesRoundAllStops) {
@@ -68,6 +76,11 @@ TEST_F(RealWindow, EnterConvertsAndEscapeDoesNothing) {
   GoTo(u"txbYearCE0");  // where the first key takes the place of the year
   Press({'2', '0', '1', '2', VK_ESCAPE, VK_RETURN});
   EXPECT_SEEN(Read(u"txbYearCE1"), u"2012");
+  const Text pane = Read(u"txbOutput");
+  PostMessageW(Control(u"cmdConvert"), WM_KEYDOWN, VK_RETURN, Held);
+  Press({VK_TAB});
+  EXPECT_SEEN(Focus(), u"cmdTBF0");
+  EXPECT_EQ(Read(u"txbOutput"), pane) << "the key was held, not pressed anew";
 }
 
 TEST_F(RealWindow, NothingGoesOnBehindABox) {
@@ -75,13 +88,16 @@ TEST_F(RealWindow, NothingGoesOnBehindABox) {
   Fill(u"txbYearCE0", u"");
   Press({VK_SPACE});
   EXPECT_SEEN(Focus(), AtBox);
-  EXPECT_EQ(TextOf(GetLastActivePopup(window)), u"Invalid input");
+  const HWND box = GetLastActivePopup(window);
+  EXPECT_EQ(TextOf(box), u"Invalid input");
   EXPECT_FALSE(is_framed());
   // A tick would take the blank away before the character comes.
   Fill(u"txbYearCE0", u" 3");
+  PostMessageW(GetNextDlgTabItem(box, nullptr, FALSE), WM_KEYDOWN, VK_RETURN, Held);
   PostMessageW(window, WM_TIMER, 1, 0);
   PostMessageW(Control(u"txbYearCE0"), WM_CHAR, u'0', 0);
   EXPECT_SEEN(Read(u"txbYearCE0"), u"0 3");
+  EXPECT_EQ(Focus(), AtBox);
   Press({VK_ESCAPE});
   EXPECT_SEEN(Focus(), u"cmdConvert");
   EXPECT_TRUE(is_framed());
@@ -96,7 +112,7 @@ TEST_F(RealWindow, TheEnterThatClosesABoxIsSpent) {
   // no other box.
   Key(VK_RETURN, true);
   EXPECT_SEEN(Focus(), u"txbYearCE0");
-  PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, LPARAM{KF_REPEAT} << 16 | 1);
+  PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, Held);
   Key(VK_RETURN, false);
   Press({VK_TAB});
   EXPECT_SEEN(Focus(), u"cboDay0");
@@ -128,10 +144,7 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
 TEST_F(RealWindow, ListsShowWhatCounts) {
   for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
     SCOPED_TRACE(testing::PrintToString(list));
-    const auto state = [&] {
-      return std::tuple(Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE));
-    };
-    const auto closed = state();
+    const auto closed = ListState(list);
     const LRESULT index = Ask(list, CB_GETCURSEL);
     for (const bool by_mouse : {true, false}) {
       GoTo(list);
@@ -141,17 +154,40 @@ TEST_F(RealWindow, ListsShowWhatCounts) {
       EXPECT_SEEN(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
       PostMessageW(window, WM_TIMER, 1, 0);  // a tick: what is browsed does not count
       by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
-      EXPECT_SEEN(state(), closed);
+      EXPECT_SEEN(ListState(list), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
     Press({'X'});
     EXPECT_SEEN(Read(list), u"x");
     SendMessageW(window, WM_THEMECHANGED, 0, 0);  // which places the controls anew
     EXPECT_EQ(Read(list), u"x");
+    Fill(list, u"abc");
+    Press({VK_F4});
+    EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+    Press({VK_ESCAPE});
+    EXPECT_SEEN(ListState(list), std::tuple(Text(u"abc"), -1, FALSE));
     GoTo(u"cmdTBF0");
     Press({VK_RETURN});
-    EXPECT_SEEN(state(), closed);
+    EXPECT_SEEN(ListState(list), closed);
   }
+}
+
+TEST_F(RealWindow, AnotherScaleLeavesWhatTheListsHold) {
+  const int dpi = static_cast<int>(GetDpiForWindow(window));
+  GoTo(u"cboYearInMet");
+  Press({'L'});
+  EXPECT_SEEN(Read(u"cboYearInMet"), u"l");
+  GoTo(u"cboGMet");
+  for (const int scale : {dpi * 5 / 4, dpi}) {
+    Press({VK_F4, VK_UP});
+    EXPECT_SEEN(ListState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
+    TellScale(scale);
+    ExpectPlaces(*this, scale);
+    EXPECT_EQ(ListState(u"cboGMet"), std::tuple(Text(u"GMet-2"), 1, FALSE));
+    EXPECT_EQ(ListState(u"cboYearInMet"), std::tuple(Text(u"l"), -1, FALSE));
+  }
+  Press({VK_UP});  // a choice again
+  EXPECT_SEEN(Focus(), u"cmdConvert");
 }
 
 TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
