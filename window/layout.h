@@ -21,6 +21,8 @@ inline constexpr Toolkit::Font Typewriter = {u"Courier New", 195};  // 9.75 poin
 
 inline constexpr int FrameLeft = 120;
 inline constexpr int FrameTop = 120;
+inline constexpr int FrameWidth = 11775;
+inline constexpr int FrameHeight = 2415;
 inline constexpr Toolkit::StoredControl::Corner OnWindow = {0, 0};
 inline constexpr Toolkit::StoredControl::Corner InFrame = {FrameLeft, FrameTop};
 
@@ -38,7 +40,7 @@ inline constexpr Toolkit::StoredControl Rows[] = {
      u"Quit", Sans, u"", {}},
     {u"lblCopyright", NoIndex, Label, OnWindow, 120, 5600, 9495, 255,
      u"", Sans, u"", {.centred = true}},
-    {u"Frame1", NoIndex, Frame, OnWindow, FrameLeft, FrameTop, 11775, 2415,
+    {u"Frame1", NoIndex, Frame, OnWindow, FrameLeft, FrameTop, FrameWidth, FrameHeight,
      u"", Sans, u"", {}},
     {u"txbYearCE", 1, TextBox, InFrame, 6795, 765, 735, 360,
      u"2399", Sans, u"Solar year", {.max_length = 5}},
@@ -92,5 +94,39 @@ inline constexpr Toolkit::StoredControl Rows[] = {
      u"Forward one day", Sans, u"", {}},
 };
 // clang-format on
+
+struct Place {
+  int left, top, right, bottom;
+};
+
+constexpr Place PlaceOf(const Toolkit::StoredControl& row) {
+  const int left = row.container.left + row.left;
+  const int top = row.container.top + row.top;
+  return {left, top, left + row.width, top + row.height};
+}
+
+// Whether each field and command button lies inside the window or the frame that holds it, and on
+// no other of them.
+consteval bool FieldsAndButtonsStandFree() {
+  const auto counts = [](const Toolkit::StoredControl& row) {
+    return row.kind == TextBox || row.kind == List || row.kind == CommandButton;
+  };
+  for (const Toolkit::StoredControl& row : Rows) {
+    if (!counts(row)) continue;
+    const Place place = PlaceOf(row);
+    const bool is_in_frame = row.container.left == FrameLeft && row.container.top == FrameTop;
+    const int right = is_in_frame ? FrameLeft + FrameWidth : ClientWidth;
+    const int bottom = is_in_frame ? FrameTop + FrameHeight : ClientHeight;
+    if (row.left < 0 || row.top < 0 || place.right > right || place.bottom > bottom) return false;
+    for (const Toolkit::StoredControl& other : Rows) {
+      const Place taken = PlaceOf(other);
+      const bool are_apart = place.right <= taken.left || taken.right <= place.left ||
+                             place.bottom <= taken.top || taken.bottom <= place.top;
+      if (&other != &row && counts(other) && !are_apart) return false;
+    }
+  }
+  return true;
+}
+static_assert(FieldsAndButtonsStandFree());
 
 }  // namespace Layout
