@@ -15,6 +15,8 @@
 namespace DatePr2 {
 
 // Fills the module values below. To be called once at start-up; they do not change afterwards.
+// Before, they are empty and 0: a table at namespace scope that is made from them takes that
+// without a warning.
 void InitDateTables();
 
 // Entries 1 to 12, "January" to "December"; entry 0 is not used.

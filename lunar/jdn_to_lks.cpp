@@ -46,16 +46,16 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   date.YearType = year_type;
   d -= years.start[year];
 
-  // The last month m with DaysBeforeMonth(m) <= d, which is 59 * (m - 1) <= 2 * d. The 30th day of
-  // month 12 in a year of type B has no month 13 to fall into.
+  // The last month m with DaysBeforeMonth(m) <= d, which is 59 * (m - 1) <= 2 * d. The last day of
+  // a year of type B would be in a month 13 by that; it is the 30th of month 12.
   const std::int32_t month = std::min(2 * d / 59 + 1, year_type == u'C' ? 13 : 12);
   date.Month = static_cast<std::int16_t>(month);
   date.Day = static_cast<std::int16_t>(d - DaysBeforeMonth(month) + 1);
   if (date.Month < 1 || date.Month > 13) return LksNoMonth;
   if (date.Day < 1 || date.Day > 30) return LksNoDay;
-  // Odd months have 30 days, and so has the 12th of a year of type B, which ends like a 13th.
-  const std::int32_t turn = month == 12 && year_type == u'B' ? 13 : month;
-  date.MonthType = turn % 2 == 1 ? u'A' : u'B';
+  // Odd months have 30 days, and so has month 12 of a year of type B.
+  const bool has_30_days = month % 2 == 1 || (month == 12 && year_type == u'B');
+  date.MonthType = has_30_days ? u'A' : u'B';
   return 0;
 }
 

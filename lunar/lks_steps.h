@@ -5,8 +5,8 @@
 
 namespace Karvel_Sorand {
 
-// The days before month `month` in a year of any type. Months of 30 and 29 days take turns, so each
-// month counts half of 59 days; a month of 30 that is left alone rounds up.
+// The days before month `month` in a year of any type. Months of 30 and 29 days take turns, so two
+// have 59 days; of an odd number of months the last has 30, which is half of 59 rounded up.
 constexpr std::int32_t DaysBeforeMonth(std::int32_t month) {
   return (59 * (month - 1) + 1) / 2;
 }

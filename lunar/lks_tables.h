@@ -20,7 +20,9 @@ namespace Karvel_Sorand {
 // this module; the values do not change afterwards.
 void InitLksTables();
 
-// The module values. They are set by InitLksTables alone and can only be read from outside.
+// The module values. They are set by InitLksTables alone and can only be read from outside. Until
+// then they are 0 and empty: a table at namespace scope that is made from them takes that without a
+// warning.
 extern const std::int16_t& MetCycleCount;    // Metonic cycles in a great cycle: 341
 extern const std::int32_t& Gmet2StartJdn;    // JDN of the first day of great cycle 2: 2373737
 extern const std::int32_t& GreatCycleDays;   // days in a great cycle: 2366404

@@ -19,8 +19,9 @@ std::int32_t LksDateToJdn(LksDate& date) {
   std::int32_t days = DaysBefore(date.MetNum, MetCycleStart);
   days += DaysBefore(date.YearInMet, YearsOf(date.MetType).start);
   days += DaysBeforeMonth(std::max<std::int32_t>(date.Month, 1)) + date.Day - 1;
-  // The 30th day of month 12 in a year of type B counts only from month 13 on, which no such year
-  // has. The record's own YearType decides; CheckLksDate has made sure that it is the pattern's.
+  // In a year of type B month 12 has 30 days, and DaysBeforeMonth counts 29. That shows in a month
+  // 13 alone; no such year has one, but somebody may enter it. The record's own YearType decides;
+  // CheckLksDate has made sure that it is the pattern's.
   if (date.Month == 13 && date.YearType == u"B") ++days;
 
   const int great_cycle = date.GMet >= 1 && date.GMet <= GreatCycleCount ? date.GMet : 1;

@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # What ./run and ./test share: packages, the Windows build, Wine's prefix, a display.
 
 say() { printf '%s\n' "$*"; }

@@ -29,12 +29,13 @@
 //    that NewControl gives it; they end before the Desktop does. The rows of the layout live longer
 //    than all of them, so a control can keep a reference to its own. The option buttons of the
 //    window share one OptionGroup, which the Desktop keeps for them.
-//  - The texts in a row are literals: they end with a zero. Any other view that comes in need not,
-//    and does not live longer than the call.
-//  - In a list a choice counts when it is made: going over the items of an open list is none, and
-//    Escape restores what counted before. While the line holds typed text nothing is selected:
-//    ListIndex is -1, until an item is chosen. What the line of a closed list shows and what
-//    ListIndex says never differ otherwise.
+//  - The texts in a row are literals: they end with a zero. A text that is handed to a function
+//  need
+//    not, and does not live longer than the call.
+//  - In a list a choice counts when it is made: to browse the items of an open list is not to
+//    choose, and Escape restores what counted before. While the line holds typed text nothing is
+//    selected: ListIndex is -1, until an item is chosen. What the line of a closed list shows and
+//    what ListIndex says never differ otherwise.
 //  - Tab and Shift+Tab go round the controls that can be used, in the order of the rows; the option
 //    buttons are one stop, and arrows choose among them. Up, Down and the wheel choose in a closed
 //    list that has the focus; in an open one arrows browse and Enter takes the item. Enter and
@@ -46,8 +47,9 @@
 //  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
 //    control that has it when the window comes back.
 //  - All events come on the thread that made the Desktop, one after the other: each handler runs to
-//    its end, unless a program from outside closes the window behind a message box. While a box is
-//    open there is no tick; the next one comes within a second of its end.
+//    its end before the next event. There is one exception: where a program from outside closes the
+//    window behind a message box, Unload is raised inside the handler that shows the box. While a
+//    box is open there is no tick; the next one comes within a second of its end.
 #pragma once
 
 #include <bitset>
@@ -263,7 +265,7 @@ class Timer {
 
 class Window : public Coloured {
  public:
-  Event Activate;  // on the screen, it has become the program's active one, for the first time
+  Event Activate;  // on the screen, it has become the program's active one; raised once
   Event Unload;    // the user closes the window, which stays until EndProgram
 
   const std::u16string& Caption() const { return caption_; }
@@ -280,7 +282,7 @@ class Window : public Coloured {
   bool was_active_ = false;
 };
 
-// The styles of a message box, with the numbers that the platform has for them.
+// The icons of a message box.
 enum class Icon { Exclamation = 48, Information = 64 };
 
 // What a program gets its window and its controls from.

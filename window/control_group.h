@@ -16,7 +16,8 @@ struct ControlGroup {
   T& operator[](int index) const { return *members[index]; }
 };
 
-// Never defined: a constant expression that gets here is none, and the compiler names this.
+// Never defined, and nothing that the compiler can evaluate: where RowOf comes to call it the build
+// stops, and the message names it.
 void NoSuchRowInTheLayout();
 
 // The number of the row `name`, `index` of the layout, which must be of this kind.

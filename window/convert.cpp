@@ -20,7 +20,7 @@ std::u16string InvalidLksText(const LksDate& date, std::int16_t status) {
   return text;
 }
 
-// The words of the messages, by row.
+// The words of the messages, by row: the system's own, two blanks and "Karvel-Sorand" included.
 constexpr std::u16string_view Unreadable[] = {u"Gregorian  date is invalid.",
                                               u"Solar Karvel-Gregorian  date is invalid."};
 constexpr std::u16string_view DoesNotExist[] = {u"The Gregorian date is invalid.",

@@ -28,8 +28,8 @@ class frmMain {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout
 
  public:
-  // `copyright` is the publisher's notice, one line.
-  frmMain(Toolkit::Desktop& desktop, ProgramVersion version, std::u16string_view copyright);
+  // `notice` is the publisher's, one line.
+  frmMain(Toolkit::Desktop& its_desktop, ProgramVersion its_version, std::u16string_view notice);
 
   Toolkit::Desktop& desktop;
   Toolkit::Window& window;
@@ -56,7 +56,7 @@ class frmMain {
   // take the blanks off the ends of the text fields they read. The status is 0 or says which field
   // is bad. ReadEuroDate then leaves `year` as it was and sets `valid` to 0; it does not test that
   // the date exists. ReadLksDate also gives the statuses of CheckLksDate, and LksWrongYear where no
-  // year is selected.
+  // year or no month is selected.
   enum YearStatus : std::int16_t {
     YearAccepted = 0,
     YearEmpty = -1,
@@ -67,8 +67,8 @@ class frmMain {
   void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);
   void ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status);
 
-  // show_date.cpp. Fill row `Index` (Gregorian or Solar) or the lunar row from a record. Row 1
-  // takes its weekday from the label of the lunar row, so for one day ShowLksDate comes first.
+  // show_date.cpp. Fill row `Index` (Gregorian or Solar) or the lunar row from a record. The Solar
+  // row takes its weekday from the label of the lunar row, so for one day ShowLksDate comes first.
   void ShowEuroDate(const EuroDate& date, std::int16_t Index);
   void ShowLksDate(const Karvel_Sorand::LksDate& date);
 
@@ -111,7 +111,7 @@ class frmMain {
  private:
   void WireEvents();
 
-  // The row that the next command reads: the first option that is selected.
+  // The row that the next command reads: that of the selected option.
   Calendar SelectedCalendar() const;
 
   // The JDN of the date of the selected calendar, if its row can be read and the date exists.

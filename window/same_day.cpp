@@ -13,13 +13,15 @@ bool frmMain::CheckSameDay(std::int16_t mode) {
     }
     if (jdn[Gregorian] != jdn[Solar]) return false;
     // The status does not matter: a lunar date that does not exist still adds up to a day, and any
-    // other that is refused leaves Jdn at 0.
+    // other that is refused leaves Jdn at 0. So it passes for the day whose JDN is 0, 24 November
+    // -4713, which no lunar date names.
     Karvel_Sorand::LksDate lks{};
     std::int16_t status = 0;
     ReadLksDate(lks, status);
     return lks.Jdn == jdn[Gregorian];
   };
-  const bool same = mode == 0 ? false : mode == 1 ? true : rows_agree();
+  const bool is_known = mode == 0 || mode == 1;
+  const bool same = is_known ? mode == 1 : rows_agree();
   lblSameDay.SetCaption(same ? u"The dates above denote the same day."
                              : u"The dates above do not denote the same day.");
   return same;

@@ -12,7 +12,8 @@ void frmMain::cmdTBF_Click(std::int16_t Index) {
     target += Index == Back ? -1 : 1;
   }
 
-  // The target counts, not the direction: from a day before the range, Forward too leads to one.
+  // The target counts, not the direction: from a day before the range Forward, too, may lead to a
+  // day before the range.
   const std::u16string& title = cmdTBF[Index].Caption();
   if (target < Karvel_Sorand::MinLksJdn) {
     return desktop.ShowMessage(u"Date too early", title, Icon::Information);

@@ -49,7 +49,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   window_class.lpfnWndProc = Procedure;
   window_class.cbWndExtra = DLGWINDOWEXTRA;
   window_class.hInstance = GetModuleHandleW(nullptr);
-  window_class.hCursor = LoadCursorW(nullptr, MAKEINTRESOURCEW(32512));  // the arrow
+  window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   window_class.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
   window_class.lpszClassName = WindowClass;
   RegisterClassExW(&window_class);

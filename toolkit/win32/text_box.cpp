@@ -72,7 +72,7 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       // A box of one line would beep at Enter, with Ctrl or without.
       return wparam == CtrlA ||
              ((wparam == u'\r' || wparam == u'\n') && !row_.properties.several_lines);
-    case WM_SYSCHAR:
+    case WM_SYSCHAR:  // Alt+Enter, at which the system would beep
       return wparam == u'\r';
     default:
       return false;
