@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "layout.h"
+#include "toolkit.h"
 
 using Text = std::u16string;
 using View = std::u16string_view;

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "control_names.h"
+#include "layout.h"
 #include "win32_toolkit.h"
 
 // Expects `seen` to become `wanted` while the user waits. What is compared is the value that was
@@ -121,6 +122,18 @@ struct RealWindow : testing::Test {
       if (focus && (focus == control || IsChild(control, focus))) return NameOf(row);
     }
     return u"";
+  }
+
+  // How many points are black on a line across the caption of an option.
+  int Black(View option) const {
+    RECT place;
+    GetWindowRect(Control(option), &place);
+    const HDC screen = GetDC(nullptr);
+    int black = 0;
+    for (LONG x = place.left + 20; x < place.right; ++x)
+      black += GetPixel(screen, x, (place.top + place.bottom) / 2) == RGB(0, 0, 0);
+    ReleaseDC(nullptr, screen);
+    return black;
   }
 
   // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.

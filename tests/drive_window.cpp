@@ -52,9 +52,16 @@ TEST_F(RealWindow, StandsAsStored) {
   EXPECT_EQ(GetWindowLongPtrW(window, GWL_STYLE) & (WS_THICKFRAME | WS_MAXIMIZEBOX), 0);
   EXPECT_EQ(TextOf(window), u"Tandem Karvel-Sorand Calendar, Version " PROGRAM_VERSION);
   EXPECT_EQ(Read(u"lblCopyright"), PROGRAM_COPYRIGHT);
+  EXPECT_EQ(Ask(u"txbYearCE0", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbYearCE1", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
   ExpectPlaces(*this, dpi);
+  POINT ground = {2, 2};
+  ClientToScreen(window, &ground);
+  EXPECT_SEEN(GetPixel(GetDC(nullptr), ground.x, ground.y), RGB(240, 232, 0));
+  SYSTEMTIME now;
+  GetLocalTime(&now);
+  EXPECT_EQ(Ask(u"cboDay0", CB_GETCURSEL), now.wDay - 1);
 }
 
 TEST_F(RealWindow, TabGoesRoundAllStops) {
@@ -66,9 +73,11 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
     Press({VK_TAB});
     EXPECT_SEEN(Focus(), next);
   }
+  const int plain = Black(u"optCalendar1");
   GoTo(u"optCalendar0");
   Press({VK_DOWN});
   EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_SEEN(Black(u"optCalendar1") > plain, true) << "the chosen one is bold";
   EXPECT_EQ(Ask(u"optCalendar1", BM_GETCHECK), BST_CHECKED);
 }
 
@@ -90,6 +99,7 @@ TEST_F(RealWindow, NothingGoesOnBehindABox) {
   EXPECT_SEEN(Focus(), AtBox);
   const HWND box = GetLastActivePopup(window);
   EXPECT_EQ(TextOf(box), u"Invalid input");
+  EXPECT_TRUE(FindWindowExW(box, nullptr, L"STATIC", L"Gregorian  date is invalid."));
   EXPECT_FALSE(is_framed());
   // A tick would take the blank away before the character comes.
   Fill(u"txbYearCE0", u" 3");
@@ -119,12 +129,14 @@ TEST_F(RealWindow, TheEnterThatClosesABoxIsSpent) {
 }
 
 TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
-  const bool is_first = Read(u"cboDay0") == u"1";
-  const WORD to_another = is_first ? VK_END : VK_HOME;
+  SendMessageW(Control(u"cboDay0"), CB_SETCURSEL, 4, 0);
   // One after the other.
-  const std::tuple<Text, std::vector<WORD>, Text, Text> steps[] = {
-      // list, keys, what its line shows then, where the focus is
-      {u"cboDay0", {VK_F4, to_another, VK_RETURN}, is_first ? u"31" : u"1", u"cmdConvert"},
+  const struct {
+    Text list;
+    std::vector<WORD> keys;
+    Text shown, focus;  // what its line shows then, and where the focus is
+  } steps[] = {
+      {u"cboDay0", {VK_F4, VK_HOME, VK_RETURN}, u"1", u"cmdConvert"},
       // A closed list chooses at once, an open one at Enter.
       {u"cboGMet", {VK_UP}, u"GMet-1", u"cmdConvert"},
       {u"cboGMet", {VK_F4, VK_DOWN, VK_RETURN}, u"GMet-2", u"cmdConvert"},
@@ -132,10 +144,10 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
       {u"cboGMet", {VK_F4, VK_DELETE, 'G'}, u"g", u"cboGMet"},
       {u"cboGMet", {VK_RETURN}, u"GMet-1", u"cmdConvert"},
   };
-  for (const auto& [list, keys, shown, focus] : steps) {
-    if (Focus() != list) GoTo(list);
-    Press(keys);
-    EXPECT_SEEN(std::pair(Read(list), Focus()), std::pair(shown, focus));
+  for (const auto& step : steps) {
+    if (Focus() != step.list) GoTo(step.list);
+    Press(step.keys);
+    EXPECT_SEEN(std::pair(Read(step.list), Focus()), std::pair(step.shown, step.focus));
   }
 }
 
@@ -157,10 +169,6 @@ TEST_F(RealWindow, ListsShowWhatCounts) {
       EXPECT_SEEN(ListState(list), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
-    Press({'X'});
-    EXPECT_SEEN(Read(list), u"x");
-    SendMessageW(window, WM_THEMECHANGED, 0, 0);  // which places the controls anew
-    EXPECT_EQ(Read(list), u"x");
     Fill(list, u"abc");
     Press({VK_F4});
     EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
@@ -194,15 +202,12 @@ TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
   const HWND list = Control(u"cboGMet");
   constexpr WPARAM Up = WHEEL_DELTA << 16;
   PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
-  PostMessageW(GetWindow(list, GW_CHILD), WM_MOUSEWHEEL, Up, 0);
   Press({VK_TAB});
   EXPECT_SEEN(Focus(), u"cmdTBF0");
   EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
   GoTo(u"cboGMet");
   PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
   EXPECT_SEEN(Focus(), u"cmdConvert");
-  const LRESULT marks = Ask(u"cboGMet", CB_GETEDITSEL);
-  EXPECT_EQ(LOWORD(marks), HIWORD(marks)) << "it looks as if it had the focus";
 }
 
 TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
@@ -213,7 +218,6 @@ TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
   EXPECT_SEEN(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(1, 1));
   Fill(u"txbYearCE0", u"");
   EXPECT_SEEN(IsWindowEnabled(Control(u"cmdTBF2")), FALSE);
-  EXPECT_EQ(IsWindowEnabled(Control(u"cmdTBF0")), TRUE);
 }
 
 TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
@@ -231,6 +235,11 @@ TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
 TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   Fill(u"txbOutput", Text(76, u'x'));
   EXPECT_EQ(Ask(u"txbOutput", EM_GETLINECOUNT), 1);
+  GoTo(u"txbOutput");
+  Key(VK_CONTROL, true);
+  Press({'A', VK_TAB});  // selects all, and types a tab
+  Key(VK_CONTROL, false);
+  EXPECT_SEEN(Read(u"txbOutput"), u"\t");
   Fill(u"txbOutput", u"\u00E4.\r\n\t");
   EXPECT_SEEN(OpenClipboard(window), TRUE);
   EmptyClipboard();

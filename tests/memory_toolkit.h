@@ -4,7 +4,6 @@
 #include <map>
 
 #include "control_names.h"
-#include "toolkit.h"
 
 namespace Memory {
 
@@ -28,9 +27,6 @@ struct Label : Toolkit::Label {
 };
 
 struct TextBox : Toolkit::TextBox {
-  using Toolkit::TextBox::NoteFocusLost;
-  using Toolkit::TextBox::NoteKeyDown;
-  using Toolkit::TextBox::NoteKeyUp;
   explicit TextBox(View stored) : text(stored) {}
   std::u16string text;
   Selection selection = {0, 0};

@@ -1,4 +1,6 @@
 // The form on the toolkit in memory.
+#include <algorithm>
+
 #include "main_window.h"
 #include "memory_toolkit.h"
 
@@ -13,7 +15,7 @@ struct Form : testing::Test {
        &form.cboDay[2]}};
 
   Form() {
-    DatePr2::SystemDate = [] { return Text(u"01-31-2026"); };
+    DatePr2::SystemDate = [] { return Text(u"01-30-2026"); };
     form.Form_Load();
     Memory::screen.is_on = true;
   }
@@ -78,8 +80,8 @@ TEST_F(Form, MovesToDays) {
        u"= 1-01-19 (Tuesday in 7/8-day week)\r\n\r\n"},
       {Gregorian, u"January 31 2026", u"cmdTBF0", u"January 31 2026 Saturday | January 31 2026 Saturday | GMet-2 A 13 LYC-12 LB-2 13 Saturday", u""},
       {Lunar, u"GMet-1 A 341 LYC-19 LA-13 30", u"cmdTBF2", u"December 20 1786 Wednesday | December 20 1786 Monday | GMet-2 A 1 LYB-1 LA-1 1 Monday", u""},
+      {Solar, u"December 31 -3", u"cmdTBF2", u"January 1 -2 Thursday | January 1 -2 Tuesday | GMet-1 B 247 LYA-17 LA-1 17 Tuesday", u""},
       {Gregorian, u"December 31 -", u"cmdTBF2", u"January 1 1 Monday | January 1 1 Saturday | GMet-1 A 248 LYB-1 LA-1 21 Saturday", u""},
-      {Solar, u"December 22 -4693", u"cmdTBF2", u"December 23 -4693 Friday | December 23 -4693 Monday | GMet-1 A 1 LYB-1 LA-1 1 Monday", u""},
       {Gregorian, u"December 18 8265", u"cmdTBF1", u"December 17 8265 Sunday | December 17 8265 Lunaday | GMet-2 A 341 LYC-19 LA-13 30 Lunaday", u""},
       // clang-format on
   };
@@ -90,6 +92,7 @@ TEST_F(Form, MovesToDays) {
     Push(button);
     EXPECT_EQ(Rows(), rows);
     EXPECT_EQ(form.txbOutput.Text(), u"typed" + block);
+    EXPECT_EQ(desktop.box, Memory::Box());
     EXPECT_EQ(form.lblSameDay.Caption(), u"The dates above denote the same day.");
     EXPECT_EQ(Memory::screen.focus, &form.cmdConvert);
   }
@@ -106,15 +109,14 @@ TEST_F(Form, RefusesWithABox) {
       {Gregorian, u"May 7 1.5", NoSteps, u"cmdConvert", u"Gregorian  date is invalid.", u"Invalid input", Warns},
       {Solar, u"May 7 --5", NoSteps, u"cmdConvert", u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
       {Gregorian, u"February 30 2010", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
-      // Years and a cycle that no one can type: the last day that 32 bits can count, and what lies beyond; 12 and 65536.
+      // Years that no one can type: these are the last day that 32 bits can count, and one too early for the lunar calendar.
       {Gregorian, u"May 7 -10000", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
       {Solar, u"June 2 5874898", Steps, u"cmdTBF2", u"Date too late", u"Forward one day", Tells},
-      {Solar, u"June 3 5874898", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
-      {Lunar, u"GMet-2 B 65548 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B  LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B -1 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
       {Lunar, u"GMet-2 x 12 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nMetonic cycle 12 is of type B.", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B 12 x LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -5", u"Invalid input", Warns},
+      {Lunar, u"GMet-2 B 12 LYB-1 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -5", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B 12 LYC-15 LB-6 30", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.", u"Invalid input", Warns},
       {Lunar, u"x B 12 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.", u"Invalid input", Warns},
       {Gregorian, u"May 7 2010", Steps, u"cmdTBF0", u"Date too late", u"Today's date", Tells},
@@ -164,9 +166,9 @@ TEST_F(Form, OpensOnToday) {
   desktop.NoteActivated();  // coming back adds nothing
   const auto& pane = dynamic_cast<Memory::TextBox&>(form.txbOutput);
   EXPECT_EQ(pane.text,
-            u"  2026-01-31 (Saturday in 7-day week)\r\n"
-            u"= 2026-01-31 (Saturday in 7/8-day week)\r\n"
-            u"= GMet-2 MA-13 LYC-12 LB-2 13 day (Saturday) 13/29 gibbous moon (waxing)\r\n\r\n");
+            u"  2026-01-30 (Friday in 7-day week)\r\n"
+            u"= 2026-01-30 (Friday in 7/8-day week)\r\n"
+            u"= GMet-2 MA-13 LYC-12 LB-2 12 day (Friday) 12/29 gibbous moon (waxing)\r\n\r\n");
   EXPECT_EQ(pane.selection.start, pane.TextLength());
 }
 
@@ -207,6 +209,8 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
       {u"cboGMet", u"GMet-1 GMet-2 ", Lunar},
       // clang-format on
   };
+  EXPECT_EQ(std::ranges::count(Layout::Rows, Toolkit::Kind::List, &Toolkit::StoredControl::kind),
+            std::ssize(rows));
   for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));
     auto& list = dynamic_cast<Memory::List&>(*desktop.controls.at(name));
@@ -237,8 +241,6 @@ TEST_F(Form, ChoosingACalendarChangesNoDate) {
     Memory::screen.focus = &option;
     option.NoteChosen();
     EXPECT_EQ(Memory::screen.focus, &option) << "that was chosen already";
-    option.Select();
-    EXPECT_EQ(Memory::screen.focus, &form.cmdConvert) << "from code";
   }
   EXPECT_EQ(All(), seen);
 }
@@ -271,9 +273,6 @@ TEST_F(Form, TheTickDisablesWhatCannotBeDone) {
     const bool stays = name == u"cmdTBF0" || name == u"cmdConvert" || name == u"cmdQuit";
     EXPECT_EQ(button->Enabled(), stays);
     EXPECT_EQ(Memory::screen.focus, stays ? button : &form.cmdConvert);
-    if (stays) continue;
-    button->Click = [] { ADD_FAILURE() << "pressed while it is disabled"; };
-    button->NotePressed();
   }
 }
 
