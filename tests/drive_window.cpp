@@ -58,7 +58,8 @@ TEST_F(RealWindow, StandsAsStored) {
   ExpectPlaces(*this, dpi);
   POINT ground = {2, 2};
   ClientToScreen(window, &ground);
-  EXPECT_SEEN(GetPixel(GetDC(nullptr), ground.x, ground.y), RGB(240, 232, 0));
+  const HDC screen = GetDC(nullptr);
+  EXPECT_SEEN(GetPixel(screen, ground.x, ground.y), RGB(240, 232, 0));
   SYSTEMTIME now;
   GetLocalTime(&now);
   EXPECT_EQ(Ask(u"cboDay0", CB_GETCURSEL), now.wDay - 1);

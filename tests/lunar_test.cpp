@@ -77,6 +77,9 @@ TEST_F(Lunar, DaysOutsideTheCalendar) {
   EXPECT_EQ(JdnToLksDate(MaxLksJdn + 1, date, true), -2);
   EXPECT_EQ(JdnToLksDate(7332, date, false), -1);
   EXPECT_TRUE(date.Jdn == 7332 && date.Valid == LksFalse && date.Label.empty());
+  // Not asked for by anyone, and yet not to be looked up outside the tables.
+  LksDate beyond{2, u"A", -9, u"B", -9, u"A", -9, 1, 0, 0, u""};
+  EXPECT_EQ(LksDateToJdn(beyond), 2373737);
 }
 
 TEST_F(Lunar, WeekdaysAndPhases) {

@@ -109,9 +109,10 @@ TEST_F(Form, RefusesWithABox) {
       {Gregorian, u"May 7 1.5", NoSteps, u"cmdConvert", u"Gregorian  date is invalid.", u"Invalid input", Warns},
       {Solar, u"May 7 --5", NoSteps, u"cmdConvert", u"Solar Karvel-Gregorian  date is invalid.", u"Invalid input", Warns},
       {Gregorian, u"February 30 2010", NoSteps, u"cmdConvert", u"The Gregorian date is invalid.", u"Invalid input", Tells},
-      // Years that no one can type: too early for the lunar calendar, and the last day that 32 bits can count.
+      // What no one can type: a year too early for the lunar calendar, the last day that 32 bits can count, and 12 and 65536.
       {Gregorian, u"May 7 -10000", Steps, u"cmdConvert", u"Error getting Lunar Karvel-Sorand date", u"Error", Warns},
       {Solar, u"June 3 5874898", NoSteps, u"cmdConvert", u"The Solar Karvel-Sorand date is invalid.", u"Invalid input", Tells},
+      {Lunar, u"GMet-2 B 65548 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -3", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B  LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -1", u"Invalid input", Warns},
       {Lunar, u"GMet-2 B -1 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nError code -2", u"Invalid input", Warns},
       {Lunar, u"GMet-2 x 12 LYC-15 LA-5 24", NoSteps, u"cmdConvert", u"Invalid input for Lunar Karvel-Sorand date.\r\nMetonic cycle 12 is of type B.", u"Invalid input", Warns},
@@ -295,10 +296,12 @@ TEST_F(Form, SameDay) {
   Enter(Solar, u"February 30 2010");
   Enter(Lunar, u"GMet-2 B  LYC-15 LA-7 1");
   EXPECT_FALSE(form.CheckSameDay(frmMain::CompareRows));
+  EXPECT_TRUE(form.CheckSameDay(1));
   Enter(Gregorian, u"June 12 2010");
   Enter(Lunar, u"GMet-2 B 12 LYC-15 LB-6 30");
   Enter(Solar, u"June 12 ");
   EXPECT_FALSE(form.CheckSameDay(frmMain::CompareRows));
   Enter(Solar, u"June 12 2010");
   EXPECT_TRUE(form.CheckSameDay(frmMain::CompareRows));
+  EXPECT_FALSE(form.CheckSameDay(0));
 }
