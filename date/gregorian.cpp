@@ -21,7 +21,7 @@ void euro_date_to_jdn(EuroDate* date) {
   date->valid = 0;
   date->jdn = NoSuchDayJdn;
   if (date->calendar != GregorianCalendar) return;
-  // Behind this the library would keep 8 bits of them.
+  // Looked at first, since the library keeps only 8 bits of a month and of a day.
   if (date->month < 1 || date->month > 12 || date->day < 1 || date->day > 31) return;
   const auto moved = std::chrono::year(date->year % EraYears) / date->month / date->day;
   if (!moved.ok()) return;

@@ -29,8 +29,7 @@
 //    that NewControl gives it; they end before the Desktop does. The rows of the layout live longer
 //    than all of them, so a control can keep a reference to its own. The option buttons of the
 //    window share one OptionGroup, which the Desktop keeps for them.
-//  - The texts in a row are literals: they end with a zero. A text that is handed to a function
-//  need
+//  - The texts in a row are literals: they end with a zero. A text that a function is given need
 //    not, and does not live longer than the call.
 //  - In a list a choice counts when it is made: to browse the items of an open list is not to
 //    choose, and Escape restores what counted before. While the line holds typed text nothing is
