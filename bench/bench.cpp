@@ -9,7 +9,7 @@
 #include <random>
 
 #include "euro_date.h"
-#include "lks_steps.h"
+#include "lks_internal.h"
 
 using namespace Karvel_Sorand;
 

@@ -1,4 +1,4 @@
-#include "lks_steps.h"
+#include "lks_internal.h"
 
 namespace Karvel_Sorand {
 
@@ -20,8 +20,8 @@ std::int16_t FirstFailedCheck(LksDate& date) {
   if (date.Month < 1 || date.Month > 13) return LksWrongMonth;
   if (date.Day < 1 || date.Day > 30) return LksWrongDay;
 
-  // Lengths of months, their types and month 13 are not looked at one by one: a date that does not
-  // exist adds up to a day that has another date.
+  // No checks of month length, type or month 13 of their own: a date that does not exist adds up to
+  // a day that has another date.
   LksDate other{};
   JdnToLksFields(LksDateToJdn(date), other, true);
   return SameLksDate(date, other) ? 0 : LksNoSuchDate;

@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "lks_steps.h"
+#include "lks_internal.h"
 
 namespace Karvel_Sorand {
 
@@ -9,7 +9,7 @@ namespace {
 constexpr std::int32_t LongestCycle = 6940;  // days of a Metonic cycle of type A
 
 // The last unit that begins on day `d` or before it, where unit u begins on day start[u]. Walks up
-// from `guess`, which must not lie behind it.
+// from `guess`, which must not be beyond it.
 std::size_t UnitOfDay(std::int32_t d, const std::vector<std::int32_t>& start, std::int32_t guess) {
   auto unit = static_cast<std::size_t>(guess);
   while (unit + 1 < start.size() && d >= start[unit + 1]) ++unit;
@@ -23,24 +23,24 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   if (jdn > MaxLksJdn) return LksTooLate;
   if (!allowBeforeCe && jdn < CeStartJdn) return LksBeforeCe;
 
-  // From here on `d` counts the days since the first day of the unit that holds the day.
-  std::int32_t d = jdn - Gmet2StartJdn + GreatCycleDays;
+  // From here on `d` is the number of days since the first day of the unit that holds the day.
+  std::int32_t d = jdn - MinLksJdn;
   date.GMet = static_cast<std::int16_t>(d / GreatCycleDays + 1);
   d %= GreatCycleDays;
 
-  // No cycle is longer than LongestCycle, so the guess is never too high. The shorter ones lack 136
-  // days in all, so it is one too low at most.
+  // The guess is never too high, since no cycle is longer than LongestCycle, and one too low at
+  // most, since the shorter ones lack only 136 days in all.
   const std::size_t cycle = UnitOfDay(d, MetCycleStart, d / LongestCycle + 1);
   if (cycle > MetCycleTypes.size()) return LksNoCycle;
   date.MetNum = static_cast<std::int16_t>(cycle);
   date.MetType = MetCycleTypes[cycle - 1];
   d -= MetCycleStart[cycle];
 
-  // No year begins more than 18 days later than if all 19 had the same length, so this guess is
-  // never too high, either, and one too low at most.
+  // Nor is this one, since no year begins more than 18 days later than if all 19 were of one
+  // length.
   const CycleYears& years = YearsOf(date.MetType);
   const std::size_t year = UnitOfDay(d, years.start, (d - 18) * YearsInMetCycle / LongestCycle + 1);
-  const char16_t year_type = years.types[year - 1];  // 0 behind the 19th
+  const char16_t year_type = years.types[year - 1];  // 0 after the 19th
   if (year_type < u'A' || year_type > u'C') return LksNoYear;
   date.YearInMet = static_cast<std::int16_t>(year);
   date.YearType = year_type;
@@ -53,8 +53,9 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   date.Day = static_cast<std::int16_t>(d - DaysBeforeMonth(month) + 1);
   if (date.Month < 1 || date.Month > 13) return LksNoMonth;
   if (date.Day < 1 || date.Day > 30) return LksNoDay;
-  // Odd months have 30 days, and so has month 12 of a year of type B.
-  const bool has_30_days = month % 2 == 1 || (month == 12 && year_type == u'B');
+  // Odd months have 30 days, and so has month 12 of a year of type B. That is asked first, since
+  // the processor guesses it right nearly always.
+  const bool has_30_days = (month == 12 && year_type == u'B') || month % 2 == 1;
   date.MonthType = has_30_days ? u'A' : u'B';
   return 0;
 }
@@ -63,8 +64,7 @@ std::int16_t JdnToLksDate(std::int32_t jdn, LksDate& date, bool allowBeforeCe) {
   date.Jdn = jdn;
   const std::int16_t status = JdnToLksFields(jdn, date, allowBeforeCe);
   date.Valid = status == 0 ? LksTrue : LksFalse;
-  date.Label.clear();
-  if (status == 0) WriteLksDateLabel(date, date.Label);
+  date.Label = status == 0 ? LksDateLabel(date) : u"";
   return status;
 }
 

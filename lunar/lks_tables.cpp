@@ -1,5 +1,4 @@
-#include "lks_tables.h"
-
+#include "lks_internal.h"
 #include "str_proc.h"
 
 namespace Karvel_Sorand {

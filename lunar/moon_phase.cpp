@@ -1,4 +1,4 @@
-#include "moon_phase.h"
+#include "lks_date.h"
 
 namespace Karvel_Sorand {
 

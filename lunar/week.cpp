@@ -1,6 +1,6 @@
-#include "week.h"
-
 #include <array>
+
+#include "lks_date.h"
 
 namespace Karvel_Sorand {
 
