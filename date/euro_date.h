@@ -1,8 +1,6 @@
-// The Gregorian side: names of months and weekdays, today's date, and dates as text. The
-// arithmetic is the calendar library's.
-//
-// The form writes dates in one order, years ungrouped and names unpadded. The rest is for other
-// programs that take this room as it is, and for its tests.
+// The Gregorian side: names of months and weekdays, and dates as text. The arithmetic is the
+// calendar library's. The form writes dates in the order year, month, day, years ungrouped and
+// names unpadded; it does not use the other forms.
 #pragma once
 
 #include <array>
@@ -15,8 +13,8 @@
 namespace DatePr2 {
 
 // Fills the module values below. To be called once at start-up; they do not change afterwards.
-// Before, they are empty and 0: a table at namespace scope that is made from them takes that
-// without a warning.
+// Until then they are empty or 0: a table at namespace scope that is built from them would silently
+// copy that.
 void InitDateTables();
 
 // Entries 1 to 12, "January" to "December"; entry 0 is not used.
@@ -28,10 +26,14 @@ extern const std::int16_t& DateOrderDMY;  // 1: day, month, year
 extern const std::int16_t& DateOrderYMD;  // 2: year, month, day
 
 // Sets `jdn` and `valid` of `date` from its other fields: euro_date_to_jdn.
-void EuroDateToJdn(EuroDate& date);
+inline void EuroDateToJdn(EuroDate& date) {
+  euro_date_to_jdn(&date);
+}
 
 // Sets `year`, `month` and `day` of `date` from its `jdn` and `calendar`: jdn_to_euro_date.
-void JdnToEuroDate(EuroDate& date);
+inline void JdnToEuroDate(EuroDate& date) {
+  jdn_to_euro_date(&date);
+}
 
 // The English name of weekday `number`, 0 being Sunday; empty for a number outside 0 to 6. With
 // `padded`, filled at the right with blanks to nine characters, the length of "Wednesday".
@@ -39,16 +41,6 @@ std::u16string WeekdayName(std::int16_t number, bool padded);
 
 // The same for the weekday of day `jdn`.
 std::u16string DayOfWeekName(std::int32_t jdn, bool padded);
-
-// The local date of the system as a text of the form mm-dd-yyyy. The program sets it before it
-// asks for today; a test sets a date of its own.
-extern std::u16string (*SystemDate)();
-
-// Fills `date` with the system's local date, asked for anew at every call.
-void GetToday(EuroDate& date);
-
-// The JDN of today.
-std::int32_t TodayJdn();
 
 // `date` as numbers: day and month with two digits at least, the year in plain decimal with a
 // leading "-" if negative, in the order `order`, joined by `separator`. A negative year that is not

@@ -3,6 +3,14 @@
 
 #include "main_window.h"
 #include "memory_toolkit.h"
+#include "today.h"
+
+namespace {
+Text system_date;
+}
+std::u16string DatePr2::SystemDate() {
+  return system_date;
+}
 
 struct Form : testing::Test {
   Memory::Desktop desktop;
@@ -15,7 +23,7 @@ struct Form : testing::Test {
        &form.cboDay[2]}};
 
   Form() {
-    DatePr2::SystemDate = [] { return Text(u"01-30-2026"); };
+    system_date = u"01-30-2026";
     form.Form_Load();
     Memory::screen.is_on = true;
   }
@@ -53,7 +61,7 @@ struct Form : testing::Test {
   }
   // Today in all rows, and then this entry in the row of the calendar chosen.
   void StartFrom(int calendar, View entry) {
-    DatePr2::SystemDate = [] { return Text(u"01-31-2026"); };
+    system_date = u"01-31-2026";
     desktop.box = {};
     Push(u"cmdTBF0");
     form.optCalendar[calendar].Select();
@@ -132,7 +140,7 @@ TEST_F(Form, RefusesWithABox) {
     EXPECT_EQ(form.lblSameDay.Caption(), u"The dates above do not denote the same day.");
     Text seen = All();
     if (button == u"cmdConvert") seen.resize(seen.rfind(u' ') + 1);  // the lunar weekday
-    DatePr2::SystemDate = [] { return Text(u"12-18-8265"); };
+    system_date = u"12-18-8265";
     if (steps == NoSteps) form.cmdTBF[Back].Click();  // as before the tick has disabled it
     Push(button);
     EXPECT_EQ(desktop.box, Memory::Box(text, title, icon));

@@ -12,8 +12,8 @@ inline constexpr std::u16string_view Digits = u"0123456789";
 
 // The position of the first character of `text`, at or after `start`, that is not in `set`;
 // 0 if there is none, also when `text` is empty or `start` lies beyond its end. An empty `set`
-// gives 1 for any text that is not empty, whatever `start` is. A `start` below 1 is taken as 1. The
-// tests below start at 1; another start is for other programs.
+// gives 1 for any text that is not empty, whatever `start` is. A `start` below 1 is taken as 1; the
+// tests below use no other.
 std::int32_t FirstNotInSet(std::u16string_view text, std::int32_t start, std::u16string_view set);
 
 // Whether `text` has no character outside `Digits`. True for the empty text.

@@ -1,5 +1,6 @@
 #include "decimal.h"
 #include "main_window.h"
+#include "today.h"
 
 using Toolkit::Icon;
 
