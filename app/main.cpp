@@ -8,8 +8,8 @@ std::u16string DatePr2::SystemDate() {
 }
 
 int main() {
-  const auto desktop = Win32::NewDesktop(ClientWidth, ClientHeight);
-  frmMain form(*desktop, {PROGRAM_VERSION_MAJOR, PROGRAM_VERSION_MINOR}, PROGRAM_COPYRIGHT_UTF16);
+  const auto window = Win32::NewWindow(Layout::ClientWidth, Layout::ClientHeight);
+  frmMain form(*window, {PROGRAM_VERSION_MAJOR, PROGRAM_VERSION_MINOR}, PROGRAM_COPYRIGHT_UTF16);
   form.Form_Load();
-  return desktop->Run();
+  return window->Run();
 }

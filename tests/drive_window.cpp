@@ -18,12 +18,14 @@ void ExpectPlaces(const RealWindow& desk, int dpi) {
     RECT place;
     GetWindowRect(desk.Control(NameOf(row)), &place);
     MapWindowPoints(nullptr, desk.window, reinterpret_cast<POINT*>(&place), 2);
-    const LONG left = Pixels(row.container.left + row.left, dpi);
-    const LONG top = Pixels(row.container.top + row.top, dpi);
+    const Toolkit::Bounds bounds = BoundsOf(row);
+    const LONG left = Pixels(bounds.left, dpi);
+    const LONG top = Pixels(bounds.top, dpi);
     // A list may be wider than what is shown of it.
-    if (row.kind == Kind::List) place.right = left + Pixels(row.width, dpi);
-    EXPECT_EQ((std::array{place.left, place.top, place.right, place.bottom}),
-              (std::array{left, top, left + Pixels(row.width, dpi), top + Pixels(row.height, dpi)}))
+    if (row.kind == Kind::List) place.right = left + Pixels(bounds.width, dpi);
+    EXPECT_EQ(
+        (std::array{place.left, place.top, place.right, place.bottom}),
+        (std::array{left, top, left + Pixels(bounds.width, dpi), top + Pixels(bounds.height, dpi)}))
         << testing::PrintToString(NameOf(row));
     if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
     // A screen reader takes the name from the text before it, seen or not.
@@ -38,13 +40,13 @@ TEST_F(RealWindow, StandsAsStored) {
   GetWindowRect(window, &outer);
   GetClientRect(window, &client);
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
-  const int dpi = MulDiv(client.right, 1440, ClientWidth);
+  const int dpi = MulDiv(client.right, 1440, Layout::ClientWidth);
   const LONG spare_width = work.right - work.left - (outer.right - outer.left);
   const LONG spare_height = work.bottom - work.top - (outer.bottom - outer.top);
-  const bool is_largest = Pixels(ClientWidth, dpi + 1) - client.right > spare_width ||
-                          Pixels(ClientHeight, dpi + 1) - client.bottom > spare_height;
+  const bool is_largest = Pixels(Layout::ClientWidth, dpi + 1) - client.right > spare_width ||
+                          Pixels(Layout::ClientHeight, dpi + 1) - client.bottom > spare_height;
   EXPECT_TRUE(is_largest || dpi == static_cast<int>(GetDpiForWindow(window))) << dpi;
-  EXPECT_EQ(client.bottom, Pixels(ClientHeight, dpi));
+  EXPECT_EQ(client.bottom, Pixels(Layout::ClientHeight, dpi));
   EXPECT_GE(spare_width, 0);
   EXPECT_GE(spare_height, 0);
   EXPECT_NEAR(outer.left - work.left, work.right - outer.right, 1);

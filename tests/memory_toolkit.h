@@ -2,12 +2,13 @@
 #pragma once
 
 #include <map>
+#include <tuple>
 
 #include "control_names.h"
 
 namespace Memory {
 
-using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title
+using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title, icon
 
 struct Screen {
   bool is_on = false;                       // the one window has been brought up
@@ -16,18 +17,11 @@ struct Screen {
 };
 inline Screen screen;
 
-struct Frame : Toolkit::Frame {
-  void ApplyBackColor() override {}
-};
-
-struct Label : Toolkit::Label {
-  using Toolkit::Label::Label;
-  void ApplyBackColor() override {}
-  void ApplyCaption() override { screen.applied += "Caption "; }
-};
-
 struct TextBox : Toolkit::TextBox {
   explicit TextBox(View stored) : text(stored) {}
+  using Toolkit::TextBox::NoteFocusLost;
+  using Toolkit::TextBox::NoteKeyDown;
+  using Toolkit::TextBox::NoteKeyUp;
   std::u16string text;
   Selection selection = {0, 0};
   std::u16string Text() const override { return text; }
@@ -43,8 +37,12 @@ struct TextBox : Toolkit::TextBox {
   void SelectText(Selection stretch) override { selection = stretch; }
 };
 
+struct Label : Toolkit::Label {
+  using Toolkit::Label::Label;
+  void ApplyCaption() override { screen.applied += "Caption "; }
+};
+
 struct List : Toolkit::List {
-  using Toolkit::List::NoteChosen;
   int index = -1;
   int ListIndex() const override { return index; }
   void ApplyNewItem(const std::u16string&) override {}
@@ -58,23 +56,21 @@ struct List : Toolkit::List {
 struct OptionButton : Toolkit::OptionButton {
   using Toolkit::OptionButton::NoteChosen;
   using Toolkit::OptionButton::OptionButton;
-  void ApplyBackColor() override {}
   void ApplyValue() override { screen.applied += "Value "; }
   void ApplyFontBold() override { screen.applied += "FontBold "; }
 };
 
 struct CommandButton : Toolkit::CommandButton {
   using Toolkit::CommandButton::CommandButton;
-  using Toolkit::CommandButton::NotePressed;
   bool Visible() const override { return screen.is_on; }
+  bool HasFocus() const override { return screen.focus == this; }
   void SetFocus() override { screen.focus = this; }
   void ApplyEnabled() override { screen.applied += "Enabled "; }
-  bool HasFocus() const override { return screen.focus == this; }
 };
 
-struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
+struct Window : Toolkit::Window {
   using Toolkit::Window::NoteActivated;
-  Desktop() { screen = {}; }
+  Window() { screen = {}; }
 
   std::map<Text, Toolkit::Control*> controls;
   Box box;  // the last one, or nothing
@@ -82,31 +78,27 @@ struct Desktop : Toolkit::Desktop, Toolkit::Window, Toolkit::Timer {
   int milliseconds = 0;  // between two ticks
   int ends = 0;          // of the program
 
-  Toolkit::Window& MainWindow() override { return *this; }
-  Toolkit::Timer& MainTimer() override { return *this; }
   std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override {
     using Toolkit::Kind;
     std::unique_ptr<Toolkit::Control> control;
-    if (row.kind == Kind::Frame) control = std::make_unique<Frame>();
+    if (row.kind == Kind::Frame) control = std::make_unique<Toolkit::Frame>();
     if (row.kind == Kind::Label) control = std::make_unique<Label>(row.text);
     if (row.kind == Kind::TextBox) control = std::make_unique<TextBox>(row.text);
     if (row.kind == Kind::List) control = std::make_unique<List>();
-    if (row.kind == Kind::OptionButton) control = std::make_unique<OptionButton>(options);
+    if (row.kind == Kind::OptionButton) control = std::make_unique<OptionButton>(*this);
     if (row.kind == Kind::CommandButton) control = std::make_unique<CommandButton>(row.text);
     controls[NameOf(row)] = control.get();
     return control;
   }
+  int Run() override { return 0; }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
-    EXPECT_EQ(box, Box()) << "two boxes at once";
+    EXPECT_EQ(box, Box()) << "two message boxes at once";
     box = Box(text, title, icon);
   }
   void SetClipboardText(View text) override { clipboard = text; }
   void EndProgram() override { ++ends; }
+  void StartTimer(int interval) override { milliseconds = interval; }
   void ApplyCaption() override {}
-  void ApplyBackColor() override {}
-  void Enable(int pause) override { milliseconds = pause; }
-
-  Toolkit::OptionGroup options;
 };
 
 }  // namespace Memory

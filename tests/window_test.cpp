@@ -13,8 +13,11 @@ std::u16string DatePr2::SystemDate() {
 }
 
 struct Form : testing::Test {
-  Memory::Desktop desktop;
-  frmMain form{desktop, {2, 1}, u"The notice"};
+  using enum frmMain::Calendar;
+  using enum frmMain::Step;
+
+  Memory::Window window;
+  frmMain form{window, {2, 1}, u"The notice"};
   // The fields of each row, from the left.
   const std::vector<Toolkit::Control*> fields[3] = {
       {&form.cboMonth[0], &form.cboDay[0], &form.txbYearCE[0]},
@@ -55,18 +58,18 @@ struct Form : testing::Test {
     }
   }
   void Push(const Text& name) {
-    auto& button = dynamic_cast<Memory::CommandButton&>(*desktop.controls.at(name));
+    auto& button = dynamic_cast<Memory::CommandButton&>(*window.controls.at(name));
     Memory::screen.focus = &button;
-    button.NotePressed();
+    button.Click();
   }
   // Today in all rows, and then this entry in the row of the calendar chosen.
   void StartFrom(int calendar, View entry) {
     system_date = u"01-31-2026";
-    desktop.box = {};
+    window.box = {};
     Push(u"cmdTBF0");
     form.optCalendar[calendar].Select();
     Enter(calendar, entry);
-    desktop.Tick();
+    window.Tick();
   }
 };
 
@@ -100,7 +103,7 @@ TEST_F(Form, MovesToDays) {
     Push(button);
     EXPECT_EQ(Rows(), rows);
     EXPECT_EQ(form.txbOutput.Text(), u"typed" + block);
-    EXPECT_EQ(desktop.box, Memory::Box());
+    EXPECT_EQ(window.box, Memory::Box());
     EXPECT_EQ(form.lblSameDay.Caption(), u"The dates above denote the same day.");
     EXPECT_EQ(Memory::screen.focus, &form.cmdConvert);
   }
@@ -143,13 +146,13 @@ TEST_F(Form, RefusesWithABox) {
     system_date = u"12-18-8265";
     if (steps == NoSteps) form.cmdTBF[Back].Click();  // as before the tick has disabled it
     Push(button);
-    EXPECT_EQ(desktop.box, Memory::Box(text, title, icon));
+    EXPECT_EQ(window.box, Memory::Box(text, title, icon));
     EXPECT_EQ(All(), seen);
   }
 }
 
 TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
-  EXPECT_EQ(desktop.Caption(), u"Tandem Karvel-Sorand Calendar, Version 2.1");
+  EXPECT_EQ(window.Caption(), u"Tandem Karvel-Sorand Calendar, Version 2.1");
   Text captions = form.lblM.Caption() + form.lblDash.Caption();
   for (const auto& row : Layout::Rows) {
     if (row.kind >= Toolkit::Kind::OptionButton) captions.append(u"|").append(row.text);
@@ -158,8 +161,8 @@ TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
             u"M-|Clear output|Copy to clipboard|Quit|Gregorian (7-day week)|Solar Karvel-Gregorian "
             u"(7/8-day week)|Lunar Karvel-Sorand (7/8-day week)|Convert selected date|Today's date|"
             u"Back one day|Forward one day");
-  EXPECT_EQ(desktop.BackColor(), 0xE8F0);
-  for (const auto& [name, control] : desktop.controls) {
+  EXPECT_EQ(window.BackColor(), 0xE8F0);
+  for (const auto& [name, control] : window.controls) {
     const auto* const coloured = dynamic_cast<Toolkit::Coloured*>(control);
     EXPECT_TRUE(!coloured || coloured->BackColor() == 0xE8F0) << testing::PrintToString(name);
   }
@@ -167,12 +170,12 @@ TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
   EXPECT_EQ(Rows(), u"January 1  Monday | January 1  Lunaday | GMet-2 A 301 LYA-1 LA-1 1 ");
   EXPECT_TRUE(form.optCalendar[Gregorian].FontBold());
   EXPECT_EQ(Memory::screen.focus, nullptr);
-  EXPECT_EQ(desktop.milliseconds, 1000);
+  EXPECT_EQ(window.milliseconds, 1000);
 }
 
 TEST_F(Form, OpensOnToday) {
-  desktop.NoteActivated();
-  desktop.NoteActivated();  // coming back adds nothing
+  window.NoteActivated();
+  window.NoteActivated();  // coming back adds nothing
   EXPECT_EQ(form.txbOutput.Text(),
             u"  2026-01-30 (Friday in 7-day week)\r\n"
             u"= 2026-01-30 (Friday in 7/8-day week)\r\n"
@@ -180,7 +183,7 @@ TEST_F(Form, OpensOnToday) {
 }
 
 TEST_F(Form, EnterConvertsTheChosenCalendarAlone) {
-  desktop.NoteActivated();
+  window.NoteActivated();
   Toolkit::TextBox* const boxes[] = {&form.txbYearCE[0], &form.txbYearCE[1], &form.txbMetNum};
   for (const int chosen : {Gregorian, Solar, Lunar}) {
     form.optCalendar[chosen].Select();
@@ -220,13 +223,13 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
             std::ssize(rows));
   for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));
-    auto& list = dynamic_cast<Memory::List&>(*desktop.controls.at(name));
+    auto& list = dynamic_cast<Memory::List&>(*window.controls.at(name));
     Text seen;
     for (int index = 0; index < list.ListCount(); ++index) seen.append(list.Item(index)) += u' ';
     EXPECT_EQ(seen, items);
     for (const int each : {0, 1, 2}) form.lblDayOfWeek[each].SetCaption(u"Someday");
     Memory::screen.focus = nullptr;
-    list.NoteChosen();
+    Toolkit::Raise(list.Click);
     for (const int each : {0, 1, 2})
       EXPECT_EQ(form.lblDayOfWeek[each].Caption().empty(), each == row) << "row " << each;
     EXPECT_EQ(Memory::screen.focus, row == NoRow ? nullptr : &form.cmdConvert);
@@ -234,7 +237,7 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
 }
 
 TEST_F(Form, ChoosingACalendarChangesNoDate) {
-  desktop.NoteActivated();
+  window.NoteActivated();
   const Text seen = All();
   for (const int chosen : {Lunar, Solar, Gregorian}) {
     auto& option = dynamic_cast<Memory::OptionButton&>(form.optCalendar[chosen]);
@@ -255,26 +258,26 @@ TEST_F(Form, CopiesAndClearsThePane) {
   const Text seen = All();
   form.txbOutput.SetText(u"typed");
   Push(u"cmdCopy");
-  EXPECT_EQ(desktop.clipboard, u"typed");
+  EXPECT_EQ(window.clipboard, u"typed");
   EXPECT_EQ(All(), u"typed" + seen);
   Push(u"cmdClear");
   EXPECT_EQ(All(), seen);
 }
 
 TEST_F(Form, TheTickDisablesWhatCannotBeDone) {
-  for (const auto& [name, control] : desktop.controls) {
+  for (const auto& [name, control] : window.controls) {
     auto* const button = dynamic_cast<Memory::CommandButton*>(control);
     if (!button) continue;
     SCOPED_TRACE(testing::PrintToString(name));
     EXPECT_TRUE(button->Click) << "nobody handles it";
     form.txbOutput.SetText(u" ");
     Push(u"cmdTBF0");
-    desktop.Tick();
+    window.Tick();
     EXPECT_TRUE(button->Enabled());
     Memory::screen.focus = button;
     form.txbOutput.SetText(u"");
     form.txbYearCE[Gregorian].SetText(u"");
-    desktop.Tick();
+    window.Tick();
     const bool stays = name == u"cmdTBF0" || name == u"cmdConvert" || name == u"cmdQuit";
     EXPECT_EQ(button->Enabled(), stays);
     EXPECT_EQ(Memory::screen.focus, stays ? button : &form.cmdConvert);
@@ -282,20 +285,20 @@ TEST_F(Form, TheTickDisablesWhatCannotBeDone) {
 }
 
 TEST_F(Form, WhatIsShownAlreadyIsNotShownAnew) {
-  desktop.NoteActivated();
-  desktop.Tick();
+  window.NoteActivated();
+  window.Tick();
   Memory::screen.applied.clear();
   form.optCalendar[Gregorian].Select();
   Push(u"cmdTBF0");
-  desktop.Tick();
+  window.Tick();
   // The weekdays alone, which are blanked meanwhile.
   EXPECT_EQ(Memory::screen.applied, "Caption Caption Caption Caption Caption Caption ");
 }
 
 TEST_F(Form, QuitAndCloseEndTheProgram) {
   Push(u"cmdQuit");
-  desktop.Unload();
-  EXPECT_EQ(desktop.ends, 2);
+  window.Unload();
+  EXPECT_EQ(window.ends, 2);
 }
 
 // Dates that do not exist are no day at all; a lunar one that only adds up to a day is that day.

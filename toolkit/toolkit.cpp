@@ -1,14 +1,11 @@
 #include "toolkit.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Toolkit {
 
 namespace {
-
-void Raise(const Event& event) {
-  if (event) event();
-}
 
 // Gives `property` the value `value` and tells whether that is another than it had.
 template <class Property, class Value>
@@ -24,10 +21,6 @@ std::size_t KeyNumber(std::int16_t key_code) {
 }
 
 }  // namespace
-
-void Coloured::SetBackColor(Color color) {
-  if (Change(back_color_, color)) ApplyBackColor();
-}
 
 void Label::SetCaption(std::u16string_view caption) {
   if (Change(caption_, caption)) ApplyCaption();
@@ -85,14 +78,13 @@ void List::SetListIndex(int index) {
   Raise(Click);
 }
 
-void List::NoteChosen() {
-  Raise(Click);
+bool OptionButton::Value() const {
+  return owner_.selected_option_ == this;
 }
 
 void OptionButton::Select() {
   if (!Value()) {
-    OptionButton* const before = group_.selected;
-    group_.selected = this;
+    OptionButton* const before = std::exchange(owner_.selected_option_, this);
     if (before) before->ApplyValue();
     ApplyValue();
   }
@@ -108,14 +100,7 @@ void OptionButton::SetFontBold(bool bold) {
 }
 
 void CommandButton::SetEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  if (!enabled && FocusHeir && HasFocus()) FocusHeir->SetFocus();
-  enabled_ = enabled;
-  ApplyEnabled();
-}
-
-void CommandButton::NotePressed() {
-  if (enabled_) Raise(Click);
+  if (Change(enabled_, enabled)) ApplyEnabled();
 }
 
 void Window::SetCaption(std::u16string_view caption) {

@@ -1,54 +1,47 @@
-// What the form asks of a window toolkit, and nothing more: one fixed-size window and its controls,
-// a timer, message boxes and the clipboard. A platform derives a class from each of these and
-// fills in the pure virtual functions; the behaviour that must be the same on every platform stands
-// here once, in the functions that are not virtual:
+// What the form asks of a window toolkit: one window of fixed size with its controls, a timer,
+// message boxes and the clipboard. A platform derives a class from each of these and fills in the
+// pure virtual functions; what must be the same on every platform is here once, in the functions
+// that are not virtual:
 //
-//  1. A selection set from code raises the control's Click at once, before the call returns, also
-//     when the selection is the one it had.
-//  2. Setting a property to the value it has already does not reach the platform: nothing is
-//     repainted, no caret moves, no focus is lost.
-//  3. A key-up is raised for a text box only if that key went down in that same box while it held
-//     the focus. So the Enter that closes a message box, which comes up in the box behind it, does
-//     not count there.
-//  4. A command button that turns disabled while it holds the focus first hands the focus to the
-//     button that the form has named for this, its FocusHeir.
+//  1. A selection set from code raises the control's Click before the call returns, even when it is
+//     the selection that the control had.
+//  2. Setting a property to the value it has does not reach the platform: nothing is repainted, no
+//     caret moves, no focus is lost.
+//  3. A key-up is raised for a text box only if that key went down in the same text box while it
+//     had the focus. Otherwise the Enter that closes a message box, and is released over the text
+//     box, would bring up the message box again.
 //
-// Texts are UTF-16; positions in them count its 16-bit units, and lines end with "\r\n" wherever
-// there are several, typed ones included. Lengths of the stored layout are in twips, 1/1440 of an
-// inch. Colours are 0x00BBGGRR, keys have the numbers of Win32 (Enter is 13), and so have the two
-// icons.
+// The form also relies on the following:
 //
-// For whoever writes the next platform:
+//  - An item of an open list is chosen when Enter or a click takes it; arrows only highlight it,
+//  and
+//    Escape restores the previous choice. While the edit field of a list holds typed text nothing
+//    is selected. Otherwise ListIndex and what a closed list shows never differ.
+//  - All events are raised on one thread, one after the other: each handler runs to its end before
+//    the next event. While a message box is open there is no tick, and no command runs; the next
+//    tick comes within a second of its end. The one exception: if another program closes the window
+//    meanwhile, Unload is raised inside the handler that shows the message box.
+//  - A control has the focus even while another program is in front: it is the one that has it when
+//    the window is active again.
 //
-//  - The main loop is the platform's own, and so is the local date: the program's entry point makes
-//    the Desktop with a client area of the layout's size, gives the form's calendar side a function
-//    for the date as a text mm-dd-yyyy, loads the form and runs the loop. That brings the window to
-//    the middle of the screen; before, it is not shown, which the form relies on while it loads. A
-//    window that is too large for its screen is drawn smaller with all that is in it.
-//  - A program has one Desktop, which owns the window and the timer. The form owns the controls
-//    that NewControl gives it; they end before the Desktop does. The rows of the layout live longer
-//    than all of them, so a control can keep a reference to its own. The option buttons of the
-//    window share one OptionGroup, which the Desktop keeps for them.
-//  - The texts in a row are literals: they end with a zero. A text that a function is given need
-//    not, and does not live longer than the call.
-//  - In a list a choice counts when it is made: to browse the items of an open list is not to
-//    choose, and Escape restores what counted before. While the line holds typed text nothing is
-//    selected: ListIndex is -1, until an item is chosen. What the line of a closed list shows and
-//    what ListIndex says never differ otherwise.
-//  - Tab and Shift+Tab go round the controls that can be used, in the order of the rows; the option
-//    buttons are one stop, and arrows choose among them. Up, Down and the wheel choose in a closed
-//    list that has the focus; in an open one arrows browse and Enter takes the item. Enter and
-//    Space press the command button that has the focus; there is no default button. Enter that is
-//    held presses none again, whatever it did when it went down, and closes no message box. In a
-//    text box Ctrl+A selects all, and so does coming in by Tab, but not in one of several lines,
-//    where Enter and Ctrl+Tab type a line end and a tab. Elsewhere Enter does nothing of its own,
-//    and neither does Escape where no list is open.
-//  - A control has the focus also while another program is in front: SetFocus and HasFocus mean the
-//    control that has it when the window comes back.
-//  - All events come on the thread that made the Desktop, one after the other: each handler runs to
-//    its end before the next event. There is one exception: where a program from outside closes the
-//    window behind a message box, Unload is raised inside the handler that shows the box. While a
-//    box is open there is no tick; the next one comes within a second of its end.
+// Who takes which key:
+//
+//   Tab, Shift+Tab   go round the enabled controls in the order of the rows; the option buttons are
+//                    one stop
+//   Enter, Space     press the focused command button, once, however long Enter is held; there is
+//   no
+//                    default button. In an open list Enter takes the item, in a multiline text box
+//                    it types a line end, again and again while it is held; elsewhere it does
+//                    nothing but raise KeyUp
+//   Up, Down, wheel  choose in a focused list that is closed, highlight in one that is open; arrows
+//                    choose among the option buttons
+//   Escape           closes an open list or a message box, and does nothing else
+//   Ctrl+A           selects all in a text box, as does Tab into one of a single line
+//   Ctrl+Tab         types a tab in a multiline text box
+//
+// Texts are UTF-16, positions in them count its 16-bit units, and lines end with "\r\n". Lengths of
+// the stored layout are in twips, 1/1440 of an inch. Colours are 0x00BBGGRR; keys and icons have
+// the numbers of Win32.
 #pragma once
 
 #include <bitset>
@@ -64,6 +57,11 @@ namespace Toolkit {
 using Event = std::function<void()>;
 using Color = std::int32_t;
 
+// Runs what handles the event, if anything does.
+inline void Raise(const Event& event) {
+  if (event) event();
+}
+
 struct Font {
   std::u16string_view face;
   int height;  // twips of the em, so without the space above the letters; 20 are a point
@@ -71,16 +69,19 @@ struct Font {
 
 enum class Kind { Frame, Label, TextBox, List, OptionButton, CommandButton };
 
-// One row of a window's stored layout. The rows stand in the tab order of their controls. A label
-// or an option button may reach into a text box or a list, which lies above it.
+struct Bounds {
+  int left, top, width, height;
+  bool operator==(const Bounds&) const = default;
+};
+
+// One row of a window's stored layout. The rows are in the tab order of their controls, live longer
+// than these, and their texts are null-terminated.
 struct StoredControl {
   std::u16string_view name;
   int index;  // in the group of controls that share the name; NoIndex for a control of its own
   Kind kind;
-  struct Corner {
-    int left, top;
-  } container;  // where left and top count from, itself counted from the corner of the client area
-  int left, top, width, height;
+  Bounds container;          // of the client area, or within it that of the frame
+  Bounds bounds;             // within the container
   std::u16string_view text;  // the caption, the first text of a box or of a line to type in
   Font font;
   std::u16string_view spoken_name;  // what a screen reader says; empty: the caption serves
@@ -94,6 +95,12 @@ struct StoredControl {
 };
 inline constexpr int NoIndex = -1;
 
+// The bounds of a control within the client area.
+constexpr Bounds BoundsOf(const StoredControl& row) {
+  return {row.container.left + row.bounds.left, row.container.top + row.bounds.top,
+          row.bounds.width, row.bounds.height};
+}
+
 class Control {
  public:
   Control() = default;
@@ -102,16 +109,14 @@ class Control {
   virtual ~Control() = default;
 };
 
-// Anything whose background colour can be set. Text on a colour that was set is black.
+// Anything whose background colour can be set, before the window is shown. Text on a colour that
+// was set is black.
 class Coloured {
  public:
   virtual ~Coloured() = default;
   static constexpr Color UsualColor = -1;  // the platform's own, before any is set
   Color BackColor() const { return back_color_; }
-  void SetBackColor(Color color);
-
- protected:
-  virtual void ApplyBackColor() = 0;
+  void SetBackColor(Color color) { back_color_ = color; }
 
  private:
   Color back_color_ = UsualColor;
@@ -192,27 +197,20 @@ class List : public Control {
   virtual void ApplyClear() = 0;
   virtual void ApplyListIndex(int index) = 0;
 
-  // To be called by the platform when the user has chosen an item.
-  void NoteChosen();
-
  private:
   std::vector<std::u16string> items_;
 };
 
-class OptionButton;
+class Window;
 
-// The option buttons of a window: at most one of them is selected.
-struct OptionGroup {
-  OptionButton* selected = nullptr;
-};
-
+// At most one option button of a window is selected.
 class OptionButton : public Control, public Coloured {
  public:
   static constexpr Kind OwnKind = Kind::OptionButton;
-  explicit OptionButton(OptionGroup& group) : group_(group) {}
+  explicit OptionButton(Window& owner) : owner_(owner) {}
   Event Click;
 
-  bool Value() const { return group_.selected == this; }
+  bool Value() const;
   void Select();
   bool FontBold() const { return font_bold_; }
   void SetFontBold(bool bold);
@@ -226,7 +224,7 @@ class OptionButton : public Control, public Coloured {
   void NoteChosen();
 
  private:
-  OptionGroup& group_;
+  Window& owner_;
   bool font_bold_ = false;
 };
 
@@ -235,20 +233,16 @@ class CommandButton : public Control {
   static constexpr Kind OwnKind = Kind::CommandButton;
   explicit CommandButton(std::u16string_view caption) : caption_(caption) {}  // that of its row
   Event Click;
-  CommandButton* FocusHeir = nullptr;  // takes the focus when this one turns disabled under it
 
   const std::u16string& Caption() const { return caption_; }
   bool Enabled() const { return enabled_; }
   void SetEnabled(bool enabled);
   virtual bool Visible() const = 0;  // false while the window is not on the screen
+  virtual bool HasFocus() const = 0;
   virtual void SetFocus() = 0;
 
  protected:
   virtual void ApplyEnabled() = 0;
-  virtual bool HasFocus() const = 0;
-
-  // To be called by the platform when the user presses the button.
-  void NotePressed();
 
  private:
   std::u16string caption_;
@@ -259,16 +253,40 @@ class Timer {
  public:
   virtual ~Timer() = default;
   Event Tick;
-  virtual void Enable(int milliseconds) = 0;  // from now on, a tick every so often
+  virtual void StartTimer(int milliseconds) = 0;  // from now on, a tick every so often
 };
 
-class Window : public Coloured {
+// The icons of a message box.
+enum class Icon { Exclamation = 48, Information = 64 };
+
+// The program's one window, and what the form gets from it: its controls, its timer, message boxes,
+// the clipboard. It lives longer than its controls.
+class Window : public Coloured, public Timer {
  public:
-  Event Activate;  // on the screen, it has become the program's active one; raised once
+  Event Activate;  // on the screen, it has become the program's active window; raised once
   Event Unload;    // the user closes the window, which stays until EndProgram
 
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption);
+
+  // To be called for the rows in their order, before Run. Makes a control of the class whose
+  // OwnKind is the row's kind: the form relies on that.
+  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;
+
+  // Brings the window to the middle of the screen, smaller where it would not fit, and serves it
+  // until the program ends. Returns the exit code of the program.
+  virtual int Run() = 0;
+
+  // Shows a message box with an OK button and returns when the user has closed it.
+  virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
+
+  // Empties the clipboard, then puts `text` on it. While another program holds the clipboard that
+  // cannot be done and it stays as it is. The user hears of a failure only by a sound.
+  virtual void SetClipboardText(std::u16string_view text) = 0;
+
+  // Takes the window off the screen and ends the program with exit code 0, without a question. It
+  // returns; Run returns once the handler that has called it is done.
+  virtual void EndProgram() = 0;
 
  protected:
   virtual void ApplyCaption() = 0;
@@ -277,34 +295,11 @@ class Window : public Coloured {
   void NoteActivated();
 
  private:
+  friend OptionButton;
+
   std::u16string caption_;
   bool was_active_ = false;
-};
-
-// The icons of a message box.
-enum class Icon { Exclamation = 48, Information = 64 };
-
-// What a program gets its window and its controls from.
-class Desktop {
- public:
-  virtual ~Desktop() = default;
-  virtual Window& MainWindow() = 0;
-  virtual Timer& MainTimer() = 0;
-
-  // To be called for the rows in their order. Gives a control of the class whose OwnKind is the
-  // row's kind: the form casts it to that without a look.
-  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;
-
-  // Shows a box with an OK button and returns when the user has closed it.
-  virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
-
-  // Empties the clipboard, then puts `text` on it. While another program holds the clipboard that
-  // cannot be done and it stays as it is. A failure is told to the user by a sound alone.
-  virtual void SetClipboardText(std::u16string_view text) = 0;
-
-  // Takes the window off the screen and ends the program with exit code 0, without a question. It
-  // returns; the main loop ends once the handler that has called it is done.
-  virtual void EndProgram() = 0;
+  OptionButton* selected_option_ = nullptr;
 };
 
 }  // namespace Toolkit

@@ -1,5 +1,6 @@
-// From the names of the stored layout to its rows. The compiler goes this way: a name that the
-// layout does not have, or a row of another kind than asked for, does not build.
+// From the names of the layout to its rows. The compiler goes this way: a control that the layout
+// does not have, that is of another kind, or that has no room does not build. The compiler's
+// message names it.
 #pragma once
 
 #include <cstddef>
@@ -10,25 +11,22 @@
 // Controls that share a name, told apart by an index from 0.
 template <class T, std::size_t count>
 struct ControlGroup {
-  using Member = T;
   static constexpr int Count = static_cast<int>(count);
   T* members[count];
   T& operator[](int index) const { return *members[index]; }
 };
 
-// Never defined, and nothing that the compiler can evaluate: where RowOf comes to call it the build
-// stops, and the message names it.
-void NoSuchRowInTheLayout();
-
 // The number of the row `name`, `index` of the layout, which must be of this kind.
 consteval std::size_t RowOf(std::u16string_view name, int index, Toolkit::Kind kind) {
-  std::size_t row = 0;
-  for (const Toolkit::StoredControl& stored : Layout::Rows) {
-    if (stored.name == name && stored.index == index && stored.kind == kind) return row;
-    ++row;
+  std::size_t number = 0;
+  for (const Toolkit::StoredControl& row : Layout::Rows) {
+    if (row.name == name && row.index == index && row.kind == kind) {
+      Layout::RequireRoom(row);
+      return number;
+    }
+    ++number;
   }
-  NoSuchRowInTheLayout();
-  return row;
+  throw "the layout has no control of this name, index and kind";
 }
 
 // The row of a control of the class T.
@@ -38,13 +36,12 @@ struct ControlRow {
   consteval ControlRow(const char16_t* name) : row(RowOf(name, Toolkit::NoIndex, T::OwnKind)) {}
 };
 
-// The rows of a group, a ControlGroup.
-template <class Group>
+// The rows of a group.
+template <class T, std::size_t count>
 struct GroupRows {
-  std::size_t rows[Group::Count];
+  std::size_t rows[count];
   consteval GroupRows(const char16_t* name) {
-    for (int index = 0; index < Group::Count; ++index) {
-      rows[index] = RowOf(name, index, Group::Member::OwnKind);
-    }
+    int index = 0;
+    for (std::size_t& row : rows) row = RowOf(name, index++, T::OwnKind);
   }
 };

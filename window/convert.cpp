@@ -36,6 +36,9 @@ void frmMain::cmdConvert_Click() {
   const bool converted =
       calendar == Lunar ? ConvertFromLks(euro, lks) : ConvertFromEuro(calendar, euro, lks);
   if (!converted) return;
+  ShowLksDate(lks);
+  ShowEuroDate(euro, calendar == Lunar ? Gregorian : Solar);
+  ShowEuroDate(euro, calendar == Lunar ? Solar : Gregorian);
   AppendBlock(calendar, euro, lks);
   CheckSameDay(CompareRows);
 }
@@ -44,15 +47,12 @@ bool frmMain::ConvertFromLks(EuroDate& euro, LksDate& lks) {
   std::int16_t status = 0;
   ReadLksDate(lks, status);
   if (status < 0) {
-    desktop.ShowMessage(InvalidLksText(lks, status), InvalidInput, Icon::Exclamation);
+    window.ShowMessage(InvalidLksText(lks, status), InvalidInput, Icon::Exclamation);
     return false;
   }
-  ShowLksDate(lks);
   euro.calendar = GregorianCalendar;
   euro.jdn = lks.Jdn;
   DatePr2::JdnToEuroDate(euro);
-  ShowEuroDate(euro, Gregorian);
-  ShowEuroDate(euro, Solar);
   return true;
 }
 
@@ -60,21 +60,18 @@ bool frmMain::ConvertFromEuro(std::int16_t Index, EuroDate& euro, LksDate& lks) 
   std::int16_t status = 0;
   ReadEuroDate(Index, euro, status);
   if (status < 0) {
-    desktop.ShowMessage(Unreadable[Index], InvalidInput, Icon::Exclamation);
+    window.ShowMessage(Unreadable[Index], InvalidInput, Icon::Exclamation);
     return false;
   }
   DatePr2::EuroDateToJdn(euro);
   if (euro.valid == 0) {
-    desktop.ShowMessage(DoesNotExist[Index], InvalidInput, Icon::Information);
+    window.ShowMessage(DoesNotExist[Index], InvalidInput, Icon::Information);
     return false;
   }
   if (JdnToLksDate(euro.jdn, lks, true) < 0) {
-    desktop.ShowMessage(u"Error getting Lunar Karvel-Sorand date", u"Error", Icon::Exclamation);
+    window.ShowMessage(u"Error getting Lunar Karvel-Sorand date", u"Error", Icon::Exclamation);
     return false;
   }
-  ShowLksDate(lks);
-  ShowEuroDate(euro, Solar);
-  ShowEuroDate(euro, Gregorian);
   return true;
 }
 

@@ -1,24 +1,23 @@
 #include "main_window.h"
 
 void frmMain::cboGMet_Click() {
-  lblDayOfWeek[Lunar].SetCaption(u"");
-  FocusConvert();
+  BlankWeekday(Lunar);
 }
 
 void frmMain::cboYearInMet_Click() {
-  lblDayOfWeek[Lunar].SetCaption(u"");
-  FocusConvert();
+  BlankWeekday(Lunar);
 }
 
 void frmMain::cboMonth_Click(std::int16_t Index) {
-  if (!FormLoaded) return;
-  lblDayOfWeek[Index].SetCaption(u"");
-  FocusConvert();
+  if (FormLoaded) BlankWeekday(Index);
 }
 
 void frmMain::cboDay_Click(std::int16_t Index) {
-  if (!FormLoaded) return;
-  lblDayOfWeek[Index].SetCaption(u"");
+  if (FormLoaded) BlankWeekday(Index);
+}
+
+void frmMain::BlankWeekday(std::int16_t row) {
+  lblDayOfWeek[row].SetCaption(u"");
   FocusConvert();
 }
 

@@ -9,9 +9,15 @@
 // Reads, shows and the tick are silent; only a command shows a message box.
 #pragma once
 
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
 #include "control_group.h"
 #include "euro_date.h"
-#include "layout.h"
 #include "lks_date.h"
 #include "toolkit.h"
 
@@ -19,33 +25,56 @@ struct ProgramVersion {
   int major_number, minor_number;
 };
 
-// The indexes of the controls, with the 16 bits of the handlers' arguments. Solar is the Solar
-// Karvel-Gregorian, Lunar the Lunar Karvel-Sorand calendar.
-enum Calendar : std::int16_t { Gregorian, Solar, Lunar };
-enum Step : std::int16_t { Today, Back, Forward };  // all but Today start from the chosen date
-
 class frmMain {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;  // one for each row of the layout
 
- public:
-  // `notice` is the publisher's, one line.
-  frmMain(Toolkit::Desktop& its_desktop, ProgramVersion its_version, std::u16string_view notice);
+  template <class T>
+  T& Control(ControlRow<T> which) const {
+    return static_cast<T&>(*controls[which.row]);
+  }
+  template <class T, std::size_t count>
+  ControlGroup<T, count> Group(GroupRows<T, count> which) const {
+    ControlGroup<T, count> group{};
+    for (std::size_t index = 0; index < count; ++index) {
+      group.members[index] = static_cast<T*>(controls[which.rows[index]].get());
+    }
+    return group;
+  }
 
-  Toolkit::Desktop& desktop;
+ public:
+  // The indexes of the controls, with the 16 bits of the handlers' arguments. Solar is the Solar
+  // Karvel-Gregorian, Lunar the Lunar Karvel-Sorand calendar. All steps but Today start from the
+  // chosen date.
+  enum Calendar : std::int16_t { Gregorian, Solar, Lunar };
+  enum Step : std::int16_t { Today, Back, Forward };
+
+  // `notice` is the publisher's, one line.
+  frmMain(Toolkit::Window& its_window, ProgramVersion its_version, std::u16string_view notice);
+
   Toolkit::Window& window;
-  Toolkit::Timer& Timer1;
-  Toolkit::Frame& Frame1;
-  Toolkit::TextBox& txbOutput;
-  Toolkit::Label& lblCopyright;
-  ControlGroup<Toolkit::CommandButton, 3> cmdTBF;  // by Step; all others by Calendar
-  Toolkit::CommandButton &cmdCopy, &cmdClear, &cmdQuit, &cmdConvert;
-  ControlGroup<Toolkit::OptionButton, 3> optCalendar;
-  ControlGroup<Toolkit::List, 3> cboMonth, cboDay;
-  ControlGroup<Toolkit::TextBox, 2> txbYearCE;
-  ControlGroup<Toolkit::Label, 3> lblDayOfWeek;
-  Toolkit::List &cboGMet, &cboMType, &cboYearInMet;
-  Toolkit::TextBox& txbMetNum;
-  Toolkit::Label &lblM, &lblDash, &lblSameDay;
+  Toolkit::Timer& Timer1 = window;
+  Toolkit::Frame& Frame1 = Control<Toolkit::Frame>(u"Frame1");
+  Toolkit::TextBox& txbOutput = Control<Toolkit::TextBox>(u"txbOutput");
+  Toolkit::CommandButton& cmdConvert = Control<Toolkit::CommandButton>(u"cmdConvert");
+  ControlGroup<Toolkit::CommandButton, 3> cmdTBF =  // by Step; all others by Calendar
+      Group<Toolkit::CommandButton, 3>(u"cmdTBF");
+  Toolkit::CommandButton& cmdCopy = Control<Toolkit::CommandButton>(u"cmdCopy");
+  Toolkit::CommandButton& cmdClear = Control<Toolkit::CommandButton>(u"cmdClear");
+  Toolkit::CommandButton& cmdQuit = Control<Toolkit::CommandButton>(u"cmdQuit");
+  ControlGroup<Toolkit::OptionButton, 3> optCalendar =
+      Group<Toolkit::OptionButton, 3>(u"optCalendar");
+  ControlGroup<Toolkit::List, 3> cboMonth = Group<Toolkit::List, 3>(u"cboMonth");
+  ControlGroup<Toolkit::List, 3> cboDay = Group<Toolkit::List, 3>(u"cboDay");
+  ControlGroup<Toolkit::TextBox, 2> txbYearCE = Group<Toolkit::TextBox, 2>(u"txbYearCE");
+  ControlGroup<Toolkit::Label, 3> lblDayOfWeek = Group<Toolkit::Label, 3>(u"lblDayOfWeek");
+  Toolkit::List& cboGMet = Control<Toolkit::List>(u"cboGMet");
+  Toolkit::List& cboMType = Control<Toolkit::List>(u"cboMType");
+  Toolkit::List& cboYearInMet = Control<Toolkit::List>(u"cboYearInMet");
+  Toolkit::TextBox& txbMetNum = Control<Toolkit::TextBox>(u"txbMetNum");
+  Toolkit::Label& lblM = Control<Toolkit::Label>(u"lblM");
+  Toolkit::Label& lblDash = Control<Toolkit::Label>(u"lblDash");
+  Toolkit::Label& lblSameDay = Control<Toolkit::Label>(u"lblSameDay");
+  Toolkit::Label& lblCopyright = Control<Toolkit::Label>(u"lblCopyright");
 
   // start_up.cpp. Form_Load brings the window from its stored layout to the moment it can go on the
   // screen; to be called once. FillDateLists gives every list its items and selects one.
@@ -88,7 +117,7 @@ class frmMain {
   void Timer1_Timer();
 
   // list_clicks.cpp. A new selection blanks the weekday of its row and hands the focus to Convert.
-  // While the window is being loaded the months and days do nothing.
+  // While the window is being loaded, months and days do nothing.
   void cboGMet_Click();
   void cboYearInMet_Click();
   void cboMonth_Click(std::int16_t Index);
@@ -115,11 +144,16 @@ class frmMain {
   Calendar SelectedCalendar() const;
 
   // The JDN of the date of the selected calendar, if its row can be read and the date exists.
-  bool ReadSelectedJdn(std::int32_t& jdn);
+  std::optional<std::int32_t> ReadSelectedJdn();
+  std::optional<std::int32_t> TargetOfStep(Step step);
 
+  // The two conversions behind Convert. They fill both records, or show a message box and return
+  // false.
   bool ConvertFromLks(EuroDate& euro, Karvel_Sorand::LksDate& lks);
   bool ConvertFromEuro(std::int16_t Index, EuroDate& euro, Karvel_Sorand::LksDate& lks);
   void AppendBlock(Calendar calendar, const EuroDate& euro, const Karvel_Sorand::LksDate& lks);
+
+  void BlankWeekday(std::int16_t row);  // of a date that is no longer the one converted
 
   ProgramVersion version;
   std::u16string copyright;

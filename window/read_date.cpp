@@ -76,19 +76,18 @@ void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
   status = CheckLksDate(date);
 }
 
-bool frmMain::ReadSelectedJdn(std::int32_t& jdn) {
+std::optional<std::int32_t> frmMain::ReadSelectedJdn() {
   std::int16_t status = 0;
   if (SelectedCalendar() == Lunar) {
     Karvel_Sorand::LksDate date{};
     ReadLksDate(date, status);
-    if (status < 0) return false;
-    jdn = LksDateToJdn(date);
-    return true;
+    if (status < 0) return std::nullopt;
+    return LksDateToJdn(date);
   }
   EuroDate date{};
   ReadEuroDate(SelectedCalendar(), date, status);
-  if (status < 0) return false;
+  if (status < 0) return std::nullopt;
   DatePr2::EuroDateToJdn(date);
-  jdn = date.jdn;
-  return date.valid != 0;
+  if (date.valid == 0) return std::nullopt;
+  return date.jdn;
 }

@@ -8,7 +8,7 @@ void frmMain::optCalendar_Click(std::int16_t Index) {
 }
 
 void frmMain::cmdCopy_Click() {
-  desktop.SetClipboardText(txbOutput.Text());
+  window.SetClipboardText(txbOutput.Text());
 }
 
 void frmMain::cmdClear_Click() {
@@ -16,7 +16,7 @@ void frmMain::cmdClear_Click() {
 }
 
 void frmMain::cmdQuit_Click() {
-  desktop.EndProgram();
+  window.EndProgram();
 }
 
 void frmMain::Form_Unload(std::int16_t) {

@@ -26,7 +26,7 @@ std::vector<std::u16string> LunarMonths() {
     items.push_back(u"LA-" + Decimal(2 * i + 1));
     items.push_back(u"LB-" + Decimal(2 * i + 2));
   }
-  items.insert(items.end(), {u"LA-11", u"LA-12", u"LB-12", u"LA-13"});
+  for (const char16_t* const item : {u"LA-11", u"LA-12", u"LB-12", u"LA-13"}) items.push_back(item);
   return items;
 }
 
@@ -38,7 +38,8 @@ std::vector<std::u16string> YearsOfMetCycle() {
     const char16_t type = Karvel_Sorand::YearTypesOfA[static_cast<std::size_t>(year) - 1];
     items.push_back(std::u16string(u"LY") + type + u"-" + Decimal(year));
   }
-  items.insert(items.end(), {u"LYA-19", u"LYC-19"});
+  items.push_back(u"LYA-19");
+  items.push_back(u"LYC-19");
   return items;
 }
 
@@ -78,7 +79,7 @@ void frmMain::Form_Load() {
   txbYearCE[Gregorian].SetText(u"");
   txbYearCE[Solar].SetText(u"");
   txbOutput.SetText(u"");
-  Timer1.Enable(Timer1Interval);
+  Timer1.StartTimer(Layout::Timer1Interval);
   FormLoaded = true;
 }
 

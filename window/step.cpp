@@ -4,36 +4,49 @@
 
 using Toolkit::Icon;
 
-void frmMain::cmdTBF_Click(std::int16_t Index) {
-  std::int32_t target = 0;
-  if (Index == Today) {
-    target = DatePr2::TodayJdn();
-  } else {
-    if (!ReadSelectedJdn(target)) return;
-    target += Index == Back ? -1 : 1;
+// The day that a step leads to; none if the date that it starts from cannot be read or does not
+// exist.
+std::optional<std::int32_t> frmMain::TargetOfStep(Step step) {
+  if (step == Today) return DatePr2::TodayJdn();
+  const std::optional<std::int32_t> from = ReadSelectedJdn();
+  if (!from) return std::nullopt;
+  switch (step) {  // without a default: the compiler then names a step that is missing
+    case Today:
+      break;
+    case Back:
+      return *from - 1;
+    case Forward:
+      return *from + 1;
   }
+  return std::nullopt;
+}
 
-  // The target counts, not the direction: from a day before the range Forward, too, may lead to a
-  // day before the range.
-  const std::u16string& title = cmdTBF[Index].Caption();
-  if (target < Karvel_Sorand::MinLksJdn) {
-    return desktop.ShowMessage(u"Date too early", title, Icon::Information);
+void frmMain::cmdTBF_Click(std::int16_t Index) {
+  // An index that is none of the steps moves forward.
+  const Step step = Index >= Today && Index < cmdTBF.Count ? static_cast<Step>(Index) : Forward;
+  const std::optional<std::int32_t> target = TargetOfStep(step);
+  if (!target) return;
+
+  // Check the target, not the direction: Forward may still land before the range.
+  const std::u16string& title = cmdTBF[step].Caption();
+  if (*target < Karvel_Sorand::MinLksJdn) {
+    return window.ShowMessage(u"Date too early", title, Icon::Information);
   }
-  if (target > Karvel_Sorand::MaxLksJdn) {
-    return desktop.ShowMessage(u"Date too late", title, Icon::Information);
+  if (*target > Karvel_Sorand::MaxLksJdn) {
+    return window.ShowMessage(u"Date too late", title, Icon::Information);
   }
 
   EuroDate euro{};
   euro.calendar = GregorianCalendar;
-  euro.jdn = target;
+  euro.jdn = *target;
   DatePr2::JdnToEuroDate(euro);
   Karvel_Sorand::LksDate lks{};
-  const std::int16_t status = JdnToLksDate(target, lks, true);
+  const std::int16_t status = JdnToLksDate(*target, lks, true);
   if (status >= 0) {
     ShowLksDate(lks);
   } else {
-    desktop.ShowMessage(u"Error " + StrProc::Decimal(status) + u" when getting LKS date", u"Error",
-                        Icon::Exclamation);
+    window.ShowMessage(u"Error " + StrProc::Decimal(status) + u" when getting LKS date", u"Error",
+                       Icon::Exclamation);
   }
   ShowEuroDate(euro, Gregorian);
   ShowEuroDate(euro, Solar);

@@ -1,13 +1,17 @@
 #include "main_window.h"
 
 void frmMain::Timer1_Timer() {
-  // Each state is worked out before it is set once: a button that were switched off and on again
-  // would lose the focus and flicker every second.
+  // Each state is worked out, then set once: toggling would lose the focus and flicker.
+  const auto enable = [this](Toolkit::CommandButton& command, bool enabled) {
+    // A disabled button loses the keyboard. Not to what comes next: after Clear and Copy that is
+    // Quit, where another Space would end the program.
+    if (!enabled && command.HasFocus()) cmdConvert.SetFocus();
+    command.SetEnabled(enabled);
+  };
   const bool has_text = txbOutput.TextLength() > 0;
-  cmdClear.SetEnabled(has_text);
-  cmdCopy.SetEnabled(has_text);
+  enable(cmdClear, has_text);
+  enable(cmdCopy, has_text);
   CheckSameDay(CompareRows);
-  std::int32_t jdn = 0;
-  const bool can_step = ReadSelectedJdn(jdn);
-  for (int step = Back; step < cmdTBF.Count; ++step) cmdTBF[step].SetEnabled(can_step);
+  const bool date_exists = ReadSelectedJdn().has_value();
+  for (int step = Back; step < cmdTBF.Count; ++step) enable(cmdTBF[step], date_exists);
 }

@@ -8,10 +8,6 @@ namespace Win32 {
 class Frame : public Toolkit::Frame, public Native {
  public:
   Frame(NativeWindow& window, const Toolkit::StoredControl& row);
-
- private:
-  const Toolkit::Coloured* Colours() const override { return this; }
-  void ApplyBackColor() override;
 };
 
 class Label : public Toolkit::Label, public Native {
@@ -19,8 +15,6 @@ class Label : public Toolkit::Label, public Native {
   Label(NativeWindow& window, const Toolkit::StoredControl& row);
 
  private:
-  const Toolkit::Coloured* Colours() const override { return this; }
-  void ApplyBackColor() override;
   void ApplyCaption() override;
 };
 
@@ -34,15 +28,14 @@ class TextBox : public Toolkit::TextBox, public Native {
 
  private:
   void Place() override;
-  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
+  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                    DWORD_PTR text_box);
   bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
   bool IsTypedTab(WPARAM key) const;
   LRESULT WantedKeys(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
   Selection SelectedStretch() const override;
   void SelectText(Selection selection) override;
-
-  WNDPROC native_procedure_;  // of the native control, for what OnMessage leaves to it
 };
 
 class List : public Toolkit::List, public Native {
@@ -53,8 +46,8 @@ class List : public Toolkit::List, public Native {
  private:
   void Place() override;
   void WidenForArrow(int height);
-  void Notified(WORD code) override;
-  void Settled() override;
+  void OnCommand(WORD code) override;
+  void CommitOrRevert();
   void ApplyNewItem(const std::u16string& item) override;
   void ApplyClear() override;
   void ApplyListIndex(int index) override;
@@ -69,16 +62,12 @@ class List : public Toolkit::List, public Native {
 
 class OptionButton : public Toolkit::OptionButton, public Native {
  public:
-  OptionButton(NativeWindow& window, const Toolkit::StoredControl& row,
-               Toolkit::OptionGroup& group);
+  OptionButton(NativeWindow& window, const Toolkit::StoredControl& row);
 
  private:
   void Place() override;
   void FollowTheme();
-  void Notified(WORD code) override;
-  void Settled() override;
-  const Toolkit::Coloured* Colours() const override { return this; }
-  void ApplyBackColor() override;
+  void OnCommand(WORD code) override;
   void ApplyValue() override;
   void ApplyFontBold() override;
 
@@ -89,12 +78,12 @@ class CommandButton : public Toolkit::CommandButton, public Native {
  public:
   CommandButton(NativeWindow& window, const Toolkit::StoredControl& row);
   bool Visible() const override { return IsWindowVisible(hwnd_) != FALSE; }
+  bool HasFocus() const override { return window_.Focus() == hwnd_; }
   void SetFocus() override { window_.SetFocusTo(hwnd_); }
 
  private:
-  void Notified(WORD code) override;
+  void OnCommand(WORD code) override;
   void ApplyEnabled() override;
-  bool HasFocus() const override { return window_.Focus() == hwnd_; }
 };
 
 }  // namespace Win32

@@ -18,7 +18,7 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 List::List(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)), typed_text_(row.text) {
-  if (row.properties.typed_in) SetWindowTextW(hwnd_, Wide(row.text.data()));
+  if (row.properties.typed_in) SetWindowTextW(hwnd_, WideLiteral(row.text));
   Send(CB_SETMINVISIBLE, ItemsShown);
 }
 
@@ -30,11 +30,11 @@ void List::Place() {
     if (GetCapture() == hwnd_) Send(WM_LBUTTONUP);
     Send(CB_SHOWDROPDOWN, FALSE);
     accepted_ = false;
-    Settled();
+    CommitOrRevert();
   }
   const LRESULT marks = Send(CB_GETEDITSEL);
   Native::Place();
-  const int height = Pixels(row_.height, window_.Dpi());
+  const int height = Pixels(row_.bounds.height, window_.Dpi());
   WidenForArrow(height);
   // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
   // Wine adds 2 to what it is told.
@@ -68,7 +68,7 @@ void List::WidenForArrow(int height) {
     CutTo(nullptr);
     return;
   }
-  const int width = Pixels(row_.width, window_.Dpi());
+  const int width = Pixels(row_.bounds.width, window_.Dpi());
   SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   CutTo(CreateRectRgn(0, 0, width, height));
@@ -82,7 +82,7 @@ int List::ListIndex() const {
   return TextOf(hwnd_) == Item(now) ? now : -1;
 }
 
-void List::Notified(WORD code) {
+void List::OnCommand(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
       // What the line reads now counts afterwards: another program may have chosen or written it.
@@ -99,13 +99,13 @@ void List::Notified(WORD code) {
       if (open_) accepted_ = false;
       break;
     case CBN_CLOSEUP:
-      PostSettle();
+      window_.Defer([this] { CommitOrRevert(); });
       break;
     case CBN_SELCHANGE:
       // In an open list the arrows only browse. The order of the notifications differs between
       // mouse, keys and versions of the platform, so what they come to is looked at when all are
       // in.
-      if (!open_) PostSettle();
+      if (!open_) window_.Defer([this] { CommitOrRevert(); });
       break;
     case CBN_EDITCHANGE:
       chosen_ = -1;
@@ -121,7 +121,7 @@ void List::Notified(WORD code) {
 
 // What counts and what is shown become the same: the item that was chosen, or what stood there
 // before. An item can be chosen by the first letters of its name alone, typed into the open list.
-void List::Settled() {
+void List::CommitOrRevert() {
   open_ = Send(CB_GETDROPPEDSTATE) != 0;
   if (open_) return;
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
@@ -129,7 +129,7 @@ void List::Settled() {
   accepted_ = true;
   if (is_choice) chosen_ = now;
   ShowWhatCounts();
-  if (is_choice) NoteChosen();
+  if (is_choice) Toolkit::Raise(Click);
 }
 
 // A native list that is left without a choice may keep the item that was browsed last, or take back
@@ -164,7 +164,7 @@ void List::ApplyClear() {
 }
 
 void List::ApplyListIndex(int index) {
-  PaintLater();
+  SuspendRedraw();
   chosen_ = index;
   typed_text_.clear();
   ShowWhatCounts();

@@ -20,7 +20,7 @@ const char16_t* FaceAt(std::u16string_view face, int dpi) {
 // else sees this one: it is not visible, and it has no number of its own.
 void PutNameBefore(HWND window, std::u16string_view name) {
   constexpr INT_PTR NoNumber = 0xFFFF;
-  Made(CreateWindowExW(0, L"STATIC", Wide(name.data()), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
+  Made(CreateWindowExW(0, L"STATIC", WideLiteral(name), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
                        reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr));
 }
 
@@ -68,13 +68,10 @@ std::u16string TextOf(HWND window) {
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
   if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);
-  const RECT place = StoredPlace();
-  hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, Wide(row.text.data()),
-                               WS_CHILD | WS_VISIBLE | style.style, place.left, place.top,
-                               place.right - place.left, place.bottom - place.top, window.Hwnd(),
+  hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, WideLiteral(row.text),
+                               WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
                                reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),
                                GetModuleHandleW(nullptr), nullptr));
-  SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
 bool Native::HoldsFocus() const {
@@ -84,9 +81,10 @@ bool Native::HoldsFocus() const {
 
 RECT Native::StoredPlace() const {
   const int dpi = window_.Dpi();
-  const int left = Pixels(row_.container.left + row_.left, dpi);
-  const int top = Pixels(row_.container.top + row_.top, dpi);
-  return {left, top, left + Pixels(row_.width, dpi), top + Pixels(row_.height, dpi)};
+  const Toolkit::Bounds bounds = BoundsOf(row_);
+  const int left = Pixels(bounds.left, dpi);
+  const int top = Pixels(bounds.top, dpi);
+  return {left, top, left + Pixels(bounds.width, dpi), top + Pixels(bounds.height, dpi)};
 }
 
 void Native::Place() {
@@ -107,19 +105,15 @@ void Native::UseFont(bool bold) {
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(FontAt(row_.font, bold, window_.Dpi())), TRUE);
 }
 
-void Native::PostSettle() {
-  PostMessageW(window_.Hwnd(), SettleMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
-}
-
-void Native::PaintLater() {
-  if (paints_later_ || !IsWindowVisible(hwnd_)) return;
-  paints_later_ = true;
+void Native::SuspendRedraw() {
+  if (is_redraw_suspended_ || !IsWindowVisible(hwnd_)) return;
+  is_redraw_suspended_ = true;
   Send(WM_SETREDRAW, FALSE);
-  PostMessageW(window_.Hwnd(), PaintMessage, reinterpret_cast<WPARAM>(hwnd_), 0);
+  window_.Defer([this] { ResumeRedraw(); });
 }
 
-void Native::Paint() {
-  paints_later_ = false;
+void Native::ResumeRedraw() {
+  is_redraw_suspended_ = false;
   Send(WM_SETREDRAW, TRUE);
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
 }

@@ -10,12 +10,16 @@
 
 namespace Win32 {
 
-// A char16_t is a wchar_t here. The text must end with a zero, as a std::u16string does.
+// A char16_t is a wchar_t here. The text must be null-terminated.
 inline const wchar_t* Wide(const char16_t* text) {
   return reinterpret_cast<const wchar_t*>(text);
 }
 inline const wchar_t* Wide(const std::u16string& text) {
   return Wide(text.c_str());
+}
+// The text of a row of the layout, which is null-terminated.
+inline const wchar_t* WideLiteral(std::u16string_view text) {
+  return Wide(text.data());
 }
 
 inline int Pixels(int twips, int dpi) {
@@ -65,27 +69,21 @@ class Native {
   Native(const Native&) = delete;
   Native& operator=(const Native&) = delete;
 
-  // The object behind a child of the main window.
-  static Native* Of(HWND hwnd) {
-    return reinterpret_cast<Native*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-  }
-
+  HWND Hwnd() const { return hwnd_; }
   Toolkit::Kind Kind() const { return row_.kind; }
   bool HoldsFocus() const;  // also when a part of it has the focus, such as the line of a list
 
-  RECT StoredPlace() const;  // where its row has the control, in the pixels of the client area
+  RECT StoredPlace() const;  // where its row has the control, in pixels of the client area
   virtual void Place();      // puts it there, and gives it its font
   void CutTo(HRGN region);   // draws nothing outside it; null takes the cut back
 
-  virtual void Notified(WORD) {}  // a notification that came with WM_COMMAND
-  virtual void Settled() {}       // what PostSettle has asked for
-  void Paint();                   // what PaintLater has put off
-  virtual const Toolkit::Coloured* Colours() const { return nullptr; }
+  virtual void OnCommand(WORD) {}  // a notification that came with WM_COMMAND
 
  protected:
   void UseFont(bool bold);
-  void PostSettle();  // calls Settled once the message that is being handled is done with
-  void PaintLater();  // nothing before then, and then once, however many changes there are
+  // Draws nothing until the message in hand is done with, and then once, however many changes there
+  // are.
+  void SuspendRedraw();
   LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
     return SendMessageW(hwnd_, message, wparam, lparam);
   }
@@ -95,7 +93,9 @@ class Native {
   HWND hwnd_;
 
  private:
-  bool paints_later_ = false;
+  void ResumeRedraw();
+
+  bool is_redraw_suspended_ = false;
   bool is_cut_ = false;
 };
 

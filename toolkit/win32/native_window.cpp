@@ -2,7 +2,12 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+#include <iterator>
 #include <map>
+#include <utility>
+
+#include "clipboard.h"
 
 namespace Win32 {
 
@@ -68,7 +73,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The dialog manager would scale the controls by itself, from rounded pixels.
   using Change = BOOL(WINAPI*)(HWND, UINT, UINT);
-  constexpr UINT DisableAll = 1;
+  constexpr UINT DisableAll = 1;  // DDC_DISABLE_ALL, which not every header has
   if (const auto set_behavior =
           SystemFunction<Change>(L"user32.dll", "SetDialogDpiChangeBehavior")) {
     set_behavior(hwnd_, DisableAll, DisableAll);
@@ -84,8 +89,8 @@ int NativeWindow::Add(Native& control) {
   return FirstControlId + static_cast<int>(controls_.size()) - 1;
 }
 
-int NativeWindow::RunLoop() {
-  KeepOffFields();
+int NativeWindow::Run() {
+  PlaceControls();
   Centre();
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
@@ -100,12 +105,36 @@ int NativeWindow::RunLoop() {
   return static_cast<int>(message.wParam);
 }
 
-void NativeWindow::End() {
+void NativeWindow::ShowMessage(std::u16string_view text, std::u16string_view title,
+                               Toolkit::Icon icon) {
+  MessageBoxW(hwnd_, Wide(std::u16string(text)), Wide(std::u16string(title)),
+              MB_OK | static_cast<UINT>(icon));
+}
+
+void NativeWindow::SetClipboardText(std::u16string_view text) {
+  ReplaceClipboard(hwnd_, text);
+}
+
+void NativeWindow::EndProgram() {
   DestroyWindow(hwnd_);
 }
 
-void NativeWindow::Enable(int milliseconds) {
+void NativeWindow::StartTimer(int milliseconds) {
   SetTimer(hwnd_, TimerId, static_cast<UINT>(milliseconds), nullptr);
+}
+
+Native* NativeWindow::ControlOf(HWND hwnd) const {
+  const auto found = std::ranges::find(controls_, hwnd, &Native::Hwnd);
+  return found == controls_.end() ? nullptr : *found;
+}
+
+void NativeWindow::Defer(Toolkit::Event step) {
+  deferred_.push_back(std::move(step));
+  if (!PostMessageW(hwnd_, DeferredMessage, 0, 0)) RunDeferred();
+}
+
+void NativeWindow::RunDeferred() {
+  for (const Toolkit::Event& step : std::exchange(deferred_, {})) step();
 }
 
 HWND NativeWindow::Focus() const {
@@ -126,10 +155,10 @@ void NativeWindow::SetFocusTo(HWND control) {
 // The wheel goes to the window under the pointer. A list that does not have the focus must not take
 // it: the choice would change, and the focus move, while the user is elsewhere.
 bool NativeWindow::IsWheelOfAnother(const MSG& message) const {
-  if (message.message != WM_MOUSEWHEEL || !IsChild(hwnd_, message.hwnd)) return false;
-  const HWND parent = GetParent(message.hwnd);  // a list, if it is the line in that
-  const Native* const native = Native::Of(parent == hwnd_ ? message.hwnd : parent);
-  return native && native->Kind() == Toolkit::Kind::List && !native->HoldsFocus();
+  if (message.message != WM_MOUSEWHEEL) return false;
+  const Native* control = ControlOf(message.hwnd);
+  if (!control) control = ControlOf(GetParent(message.hwnd));  // of the line in a list
+  return control && control->Kind() == Toolkit::Kind::List && !control->HoldsFocus();
 }
 
 void NativeWindow::RememberFocus() {
@@ -191,23 +220,16 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       FitAnew();
       break;
     case WM_COMMAND:
-      Command(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
+      OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
       return 0;
-    case SettleMessage:
-      if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Settled();
-      return 0;
-    case PaintMessage:
-      if (Native* const native = Native::Of(reinterpret_cast<HWND>(wparam))) native->Paint();
-      return 0;
-    case PlaceMessage:
-      PlaceControls();
+    case DeferredMessage:
+      RunDeferred();
       return 0;
     case WM_TIMER:
-      // A message box disables the window: the command that shows it is not done with yet.
-      if (wparam == TimerId && Tick && IsWindowEnabled(hwnd_)) Tick();
+      if (wparam == TimerId && IsEnabled()) Toolkit::Raise(Tick);
       return 0;
     case WM_CLOSE:
-      if (Unload) Unload();
+      Toolkit::Raise(Unload);
       return 0;
     case WM_DESTROY:
       PostQuitMessage(0);
@@ -215,7 +237,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_CTLCOLORSTATIC:
     case WM_CTLCOLORBTN:
       if (const HBRUSH brush =
-              PaintGround(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam))) {
+              BackgroundBrush(reinterpret_cast<HDC>(wparam), reinterpret_cast<HWND>(lparam))) {
         return reinterpret_cast<LRESULT>(brush);
       }
       break;
@@ -245,14 +267,12 @@ void NativeWindow::GiveFocusBack() {
 
 // Gives this button alone the frame of the default one; none gets it where this is no button.
 void NativeWindow::FrameDefaultButton(HWND button) {
-  for (HWND child = GetWindow(hwnd_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT)) {
-    const LRESULT code = SendMessageW(child, WM_GETDLGCODE, 0, 0);
-    if (child == button && (code & DLGC_UNDEFPUSHBUTTON)) {
-      SendMessageW(child, BM_SETSTYLE, BS_DEFPUSHBUTTON, TRUE);
-    }
-    if (child != button && (code & DLGC_DEFPUSHBUTTON)) {
-      SendMessageW(child, BM_SETSTYLE, BS_PUSHBUTTON, TRUE);
-    }
+  for (const Native* const control : controls_) {
+    if (control->Kind() != Toolkit::Kind::CommandButton) continue;
+    const HWND hwnd = control->Hwnd();
+    const bool is_framed = (SendMessageW(hwnd, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
+    if (is_framed == (hwnd == button)) continue;
+    SendMessageW(hwnd, BM_SETSTYLE, is_framed ? BS_PUSHBUTTON : BS_DEFPUSHBUTTON, TRUE);
   }
 }
 
@@ -268,35 +288,29 @@ void NativeWindow::ShowIcons() {
   }
 }
 
-void NativeWindow::Command(WORD id, WORD code, HWND control) {
-  if (id == IDOK) {
-    // Enter, and no button has the frame of the default one, as after a click with the mouse: it
-    // presses the button that has the focus. Escape comes as IDCANCEL and does nothing.
-    control = Focus();
-    code = BN_CLICKED;
-    if (!IsPushButton(control)) return;
-  }
-  if (Native* const native = control ? Native::Of(control) : nullptr) native->Notified(code);
+void NativeWindow::OnCommand(WORD id, WORD code, HWND sender) {
+  // IDOK is Enter while no button has the frame of the default one, as after a click with the
+  // mouse: it presses the focused button. IDCANCEL, Escape, comes without a sender and does
+  // nothing.
+  Native* const control = ControlOf(id == IDOK ? Focus() : sender);
+  if (!control || (id == IDOK && control->Kind() != Toolkit::Kind::CommandButton)) return;
+  control->OnCommand(code);
 }
 
-HBRUSH NativeWindow::PaintGround(HDC dc, HWND control) const {
-  const Native* const native = Native::Of(control);
-  const Toolkit::Coloured* colours = native ? native->Colours() : nullptr;
+HBRUSH NativeWindow::BackgroundBrush(HDC dc, HWND hwnd) const {
+  const Native* const control = ControlOf(hwnd);
+  const auto* coloured = dynamic_cast<const Toolkit::Coloured*>(control);
   // A themed button lets the ground behind it show at its edge.
-  if (native && native->Kind() == Toolkit::Kind::CommandButton) colours = this;
-  if (!colours || colours->BackColor() == UsualColor) return nullptr;
+  if (control && control->Kind() == Toolkit::Kind::CommandButton) coloured = this;
+  if (!coloured || coloured->BackColor() == UsualColor) return nullptr;
   // Black under every theme: the yellow does not change with it.
   SetTextColor(dc, Black);
-  SetBkColor(dc, static_cast<COLORREF>(colours->BackColor()));
-  return BrushOf(colours->BackColor());
+  SetBkColor(dc, static_cast<COLORREF>(coloured->BackColor()));
+  return BrushOf(coloured->BackColor());
 }
 
 void NativeWindow::ApplyCaption() {
   SetWindowTextW(hwnd_, Wide(Caption()));
-}
-
-void NativeWindow::ApplyBackColor() {
-  InvalidateRect(hwnd_, nullptr, TRUE);
 }
 
 }  // namespace Win32

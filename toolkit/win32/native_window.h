@@ -7,22 +7,33 @@
 
 namespace Win32 {
 
-class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
+class NativeWindow : public Toolkit::Window {
  public:
   NativeWindow(int client_width, int client_height);
 
+  std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override;
+  int Run() override;
+  void ShowMessage(std::u16string_view text, std::u16string_view title,
+                   Toolkit::Icon icon) override;
+  void SetClipboardText(std::u16string_view text) override;
+  void EndProgram() override;
+  void StartTimer(int milliseconds) override;
+
   HWND Hwnd() const { return hwnd_; }
-  // The dots per inch that the window is drawn with: those of its monitor, or as many fewer as it
-  // takes for the whole window to lie on it.
+  // The dots per inch that the window is drawn with: those of its monitor, or fewer where it would
+  // not fit.
   int Dpi() const { return dpi_; }
   int MonitorDpi() const { return monitor_dpi_; }
-  int Add(Native& control);  // gives the number of the control, which is its row's
+  int Add(Native& control);  // returns the ID of the control, by its row
 
-  int RunLoop();  // brings the window to the screen and serves it; gives the exit code
-  void End();     // ends RunLoop
-  void Enable(int milliseconds) override;
+  // False while a message box is open: the command that shows it is not done yet.
+  bool IsEnabled() const { return IsWindowEnabled(hwnd_) != FALSE; }
 
-  // The control that has the focus, or that gets it when the window is active again.
+  // Runs `step` once the message in hand is done with, in the order of the calls; at once if the
+  // queue of the thread takes no more messages.
+  void Defer(Toolkit::Event step);
+
+  // The focused control, or the one that gets the focus when the window is active again.
   HWND Focus() const;
   void SetFocusTo(HWND control);
 
@@ -30,7 +41,10 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   void ApplyCaption() override;
-  void ApplyBackColor() override;
+
+  // The control with this handle; null for any other handle, which another program may send.
+  Native* ControlOf(HWND hwnd) const;
+  void RunDeferred();
 
   bool IsActive() const { return GetActiveWindow() == hwnd_; }
   bool IsWheelOfAnother(const MSG& message) const;
@@ -38,12 +52,13 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   void Activated();
   void GiveFocusBack();
   void FrameDefaultButton(HWND button);
-  void Command(WORD id, WORD code, HWND control);
+  void OnCommand(WORD id, WORD code, HWND sender);
   void ShowIcons();
-  HBRUSH PaintGround(HDC dc, HWND control) const;
+  HBRUSH BackgroundBrush(HDC dc, HWND hwnd) const;
 
-  // Where the window stands and its controls in it: placement.cpp.
+  // Where the window is and its controls are in it: placement.cpp.
   void Centre();
+  SIZE FrameSize() const;
   void Fit();
   void FitAnew();
   void MoveToDpi(int dpi, const RECT& place);
@@ -54,18 +69,15 @@ class NativeWindow : public Toolkit::Window, public Toolkit::Timer {
   HWND hwnd_ = nullptr;
   int dpi_ = 96;
   int monitor_dpi_ = 96;
-  HMONITOR fitted_monitor_ = nullptr;  // the monitor on which the window was fitted
-  RECT fitted_area_ = {};              // the work area that it had then
-  bool must_fit_ = true;               // even if both are the same
+  HMONITOR fitted_monitor_ = nullptr;  // where the window was last fitted, and
+  RECT fitted_area_ = {};              // the work area there; both empty when it must be fitted
   bool is_dragged_ = false;
   std::vector<Native*> controls_;
+  std::vector<Toolkit::Event> deferred_;
   HWND remembered_focus_ = nullptr;
 };
 
-// Posted to the window by Native::PostSettle and Native::PaintLater with the control as WPARAM.
-inline constexpr UINT SettleMessage = WM_APP;
-inline constexpr UINT PaintMessage = WM_APP + 1;
-// Posted by the window to itself: places its controls.
-inline constexpr UINT PlaceMessage = WM_APP + 2;
+// Posted by the window to itself: runs what was deferred.
+inline constexpr UINT DeferredMessage = WM_APP;
 
 }  // namespace Win32

@@ -3,9 +3,8 @@
 namespace Win32 {
 
 // The arrow keys move within a group, which begins at its first button. Clipped as a label is.
-OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& row,
-                           Toolkit::OptionGroup& group)
-    : Toolkit::OptionButton(group),
+OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& row)
+    : Toolkit::OptionButton(window),
       Native(window, row,
              {L"BUTTON", BS_AUTORADIOBUTTON | WS_CLIPCHILDREN |
                              (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
@@ -32,16 +31,11 @@ void OptionButton::FollowTheme() {
 
 // A button that gets the focus may say that it was clicked before the change of focus is done with,
 // in which the focus must not move on; and some say so without being chosen.
-void OptionButton::Notified(WORD code) {
-  if (code == BN_CLICKED) PostSettle();
-}
-
-void OptionButton::Settled() {
-  if (Send(BM_GETCHECK) == BST_CHECKED) NoteChosen();
-}
-
-void OptionButton::ApplyBackColor() {
-  InvalidateRect(hwnd_, nullptr, TRUE);
+void OptionButton::OnCommand(WORD code) {
+  if (code != BN_CLICKED) return;
+  window_.Defer([this] {
+    if (Send(BM_GETCHECK) == BST_CHECKED) NoteChosen();
+  });
 }
 
 void OptionButton::ApplyValue() {

@@ -1,6 +1,5 @@
 // Where the window stands, how large it is drawn, and where its controls stand in it.
 #include <algorithm>
-#include <utility>
 
 #include "native_window.h"
 
@@ -41,51 +40,51 @@ void NativeWindow::Centre() {
                SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// Draws the window at the largest scale, up to that of its monitor, at which the whole of it lies
-// in the work area, and moves it there. Does nothing if it need not and has been fitted to just
-// this area; a window that is dragged must not change its size, which could bring it back to the
-// monitor that it comes from, and a minimised or maximised one is on its way to its own size.
+// What the frame adds to the client area: the difference is the same for a window of any size.
+SIZE NativeWindow::FrameSize() const {
+  constexpr LONG AnySize = 10000;
+  RECT client = {0, 0, AnySize, AnySize};
+  SendMessageW(hwnd_, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&client));
+  return {AnySize - (client.right - client.left), AnySize - (client.bottom - client.top)};
+}
+
+// Draws the window at the largest DPI, up to that of its monitor, at which it fits the work area,
+// and moves it inside. Not while it is dragged, when another size could return it to the monitor
+// that it comes from, nor while it is minimised or maximised.
 void NativeWindow::Fit() {
   const HMONITOR monitor = MonitorOf(hwnd_);
   const RECT area = WorkArea(monitor);
-  if (is_dragged_ || IsIconic(hwnd_) || IsZoomed(hwnd_)) return;
-  if (!must_fit_ && EqualRect(&area, &fitted_area_)) return;
-  // Moved to another monitor it may lie across both; on its own the area has changed.
-  bool may_stay = !must_fit_ && monitor != fitted_monitor_;
-  must_fit_ = false;
+  if (is_dragged_ || IsIconic(hwnd_) || IsZoomed(hwnd_) || EqualRect(&area, &fitted_area_)) return;
+  const bool has_moved = fitted_monitor_ && monitor != fitted_monitor_;
   fitted_monitor_ = monitor;
   fitted_area_ = area;
-  // What the frame adds is seen once the window is larger than its frame, so the first size of a
-  // new window is a guess.
-  for (int tries = 0; tries < 2; ++tries) {
-    RECT outer;
-    RECT client;
-    GetWindowRect(hwnd_, &outer);
-    GetClientRect(hwnd_, &client);
-    const int frame_width = outer.right - outer.left - client.right;
-    const int frame_height = outer.bottom - outer.top - client.bottom;
-    const auto width = [&] { return frame_width + Pixels(client_width_, dpi_); };
-    const auto height = [&] { return frame_height + Pixels(client_height_, dpi_); };
-    const auto has_room = [&] {
-      return width() <= area.right - area.left && height() <= area.bottom - area.top;
-    };
-    const int dpi_before = std::exchange(dpi_, monitor_dpi_);
-    while (dpi_ > LowestDpi && !has_room()) --dpi_;
-    if (may_stay && dpi_ == dpi_before && has_room()) return;
-    may_stay = false;
-    SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(), outer.left),
-                 Between(area.top, area.bottom, height(), outer.top), width(), height(),
-                 SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
-  }
+
+  const SIZE frame = FrameSize();
+  const auto width = [&](int dpi) { return frame.cx + Pixels(client_width_, dpi); };
+  const auto height = [&](int dpi) { return frame.cy + Pixels(client_height_, dpi); };
+  const auto fits = [&](int dpi) {
+    return width(dpi) <= area.right - area.left && height(dpi) <= area.bottom - area.top;
+  };
+  int dpi = monitor_dpi_;
+  while (dpi > LowestDpi && !fits(dpi)) --dpi;
+  // The user may leave it across the edge of two monitors.
+  if (has_moved && dpi == dpi_ && fits(dpi)) return;
+  dpi_ = dpi;
+  RECT outer;
+  GetWindowRect(hwnd_, &outer);
+  SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(dpi), outer.left),
+               Between(area.top, area.bottom, height(dpi), outer.top), width(dpi), height(dpi),
+               SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   PlaceControls();
 }
 
-// After a change of the theme or the scale: at once, and again when the native
-// controls have heard of it, too. They may then measure themselves anew.
+// After a change of the theme or the DPI: at once, and again when the native controls, which may
+// then measure themselves again, have heard of it.
 void NativeWindow::FitAnew() {
-  must_fit_ = true;
+  fitted_monitor_ = nullptr;
+  fitted_area_ = {};
   Fit();
-  PostMessageW(hwnd_, PlaceMessage, 0, 0);
+  Defer([this] { PlaceControls(); });
 }
 
 void NativeWindow::MoveToDpi(int dpi, const RECT& place) {

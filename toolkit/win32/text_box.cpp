@@ -1,5 +1,7 @@
 #include "controls.h"
 
+#include <commctrl.h>
+
 namespace Win32 {
 
 namespace {
@@ -30,8 +32,7 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
-  native_procedure_ = reinterpret_cast<WNDPROC>(
-      SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Procedure)));
+  SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void TextBox::Place() {
@@ -39,11 +40,12 @@ void TextBox::Place() {
   TakeMargins(hwnd_);
 }
 
-LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
-  auto* const self = static_cast<TextBox*>(Native::Of(hwnd));
+LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                    DWORD_PTR text_box) {
   LRESULT result = 0;
-  if (self->OnMessage(message, wparam, lparam, result)) return result;
-  return CallWindowProcW(self->native_procedure_, hwnd, message, wparam, lparam);
+  const bool is_done =
+      reinterpret_cast<TextBox*>(text_box)->OnMessage(message, wparam, lparam, result);
+  return is_done ? result : DefSubclassProc(hwnd, message, wparam, lparam);
 }
 
 // Tells whether the message has been dealt with.
@@ -61,7 +63,8 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       return true;
     case WM_KEYUP:
     case WM_SYSKEYUP:
-      NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
+      // Another program can send keys to the box behind a message box.
+      if (window_.IsEnabled()) NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
       return false;
     case WM_KILLFOCUS:
       NoteFocusLost();
@@ -112,7 +115,7 @@ void TextBox::SetSelStart(std::int32_t position) {
 }
 
 void TextBox::ApplyText(std::u16string_view text) {
-  PaintLater();
+  SuspendRedraw();
   SetWindowTextW(hwnd_, Wide(std::u16string(text)));
 }
 

@@ -13,16 +13,8 @@ namespace Win32 {
 inline constexpr wchar_t WindowClass[] = L"TandemWindow";
 inline constexpr int FirstControlId = 100;
 
-class Desktop : public Toolkit::Desktop {
- public:
-  // Brings the window to the screen, in the middle of it, and serves it until the program ends.
-  // Returns the exit code of the program.
-  virtual int Run() = 0;
-};
-
-// A desktop with a window whose client area has this size in twips. The window is not on the screen
-// yet. One desktop a program.
-std::unique_ptr<Desktop> NewDesktop(int client_width, int client_height);
+// A window whose client area has this size in twips. It is not on the screen yet. One a program.
+std::unique_ptr<Toolkit::Window> NewWindow(int client_width, int client_height);
 
 // Today's local date as a text of the form mm-dd-yyyy.
 std::u16string LocalDate();

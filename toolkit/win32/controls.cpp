@@ -1,0 +1,53 @@
+// How the controls of the rows are made, and those that need only a few lines of their own.
+#include "controls.h"
+
+namespace Win32 {
+
+std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::StoredControl& row) {
+  switch (row.kind) {
+    case Toolkit::Kind::Frame:
+      return std::make_unique<Frame>(*this, row);
+    case Toolkit::Kind::Label:
+      return std::make_unique<Label>(*this, row);
+    case Toolkit::Kind::TextBox:
+      return std::make_unique<TextBox>(*this, row);
+    case Toolkit::Kind::List:
+      return std::make_unique<List>(*this, row);
+    case Toolkit::Kind::OptionButton:
+      return std::make_unique<OptionButton>(*this, row);
+    case Toolkit::Kind::CommandButton:
+      return std::make_unique<CommandButton>(*this, row);
+  }
+  return nullptr;
+}
+
+Frame::Frame(NativeWindow& window, const Toolkit::StoredControl& row)
+    : Native(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
+
+// The class draws with the region of the window around it, not its own, unless the style clips
+// children.
+Label::Label(NativeWindow& window, const Toolkit::StoredControl& row)
+    : Toolkit::Label(row.text),
+      Native(window, row,
+             {L"STATIC", (row.properties.centred ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
+                             SS_NOPREFIX | WS_GROUP | WS_CLIPCHILDREN}) {}
+
+void Label::ApplyCaption() {
+  SuspendRedraw();
+  SetWindowTextW(hwnd_, Wide(Caption()));
+}
+
+CommandButton::CommandButton(NativeWindow& window, const Toolkit::StoredControl& row)
+    : Toolkit::CommandButton(row.text),
+      Native(window, row, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP}) {}
+
+// BM_CLICK also reaches a disabled button, and one behind a message box.
+void CommandButton::OnCommand(WORD code) {
+  if (code == BN_CLICKED && Enabled() && window_.IsEnabled()) Toolkit::Raise(Click);
+}
+
+void CommandButton::ApplyEnabled() {
+  EnableWindow(hwnd_, Enabled());
+}
+
+}  // namespace Win32
