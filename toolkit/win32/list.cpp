@@ -11,7 +11,8 @@ constexpr WPARAM ClosedPart = static_cast<WPARAM>(-1);  // the item height of th
 
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
   const DWORD line = row.properties.typed_in ? CBS_DROPDOWN | CBS_AUTOHSCROLL : CBS_DROPDOWNLIST;
-  return {L"COMBOBOX", line | WS_VSCROLL | WS_TABSTOP | WS_GROUP};
+  // Clips children as a label does: a list that is wider than its row is cut to it.
+  return {L"COMBOBOX", line | WS_VSCROLL | WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN};
 }
 
 }  // namespace
