@@ -45,6 +45,7 @@ class List : public Toolkit::List, public Native {
 
  private:
   void Place() override;
+  void Draw(const DRAWITEMSTRUCT& item) override;
   void WidenForArrow(int height);
   void OnCommand(WORD code) override;
   void CommitOrRevert();

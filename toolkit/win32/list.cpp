@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "centered_edit.h"
+
 namespace Win32 {
 
 namespace {
@@ -10,7 +12,11 @@ constexpr WPARAM ItemsShown = 12;                       // at most, in the open 
 constexpr WPARAM ClosedPart = static_cast<WPARAM>(-1);  // the item height of the closed list
 
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
-  const DWORD line = row.properties.typed_in ? CBS_DROPDOWN | CBS_AUTOHSCROLL : CBS_DROPDOWNLIST;
+  // A list of choice is drawn by us, with its text in the middle; screen readers still get the
+  // text.
+  const DWORD line = row.properties.typed_in
+                         ? CBS_DROPDOWN | CBS_AUTOHSCROLL
+                         : CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
   // Clips children as a label does: a list that is wider than its row is cut to it.
   return {L"COMBOBOX", line | WS_VSCROLL | WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN};
 }
@@ -19,7 +25,10 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 List::List(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)), typed_text_(row.text) {
-  if (row.properties.typed_in) SetWindowTextW(hwnd_, WideLiteral(row.text));
+  if (row.properties.typed_in) {
+    SetWindowTextW(hwnd_, WideLiteral(row.text));
+    CenterText(GetWindow(hwnd_, GW_CHILD));
+  }
   Send(CB_SETMINVISIBLE, ItemsShown);
 }
 
@@ -48,8 +57,11 @@ void List::Place() {
     text_height += missing;
     Send(CB_SETITEMHEIGHT, ClosedPart, text_height);
   }
-  if (!row_.properties.typed_in) return;
-  TakeMargins(GetWindow(hwnd_, GW_CHILD));
+  if (!row_.properties.typed_in) {
+    Send(CB_SETITEMHEIGHT, 0, LineHeight(hwnd_));
+    return;
+  }
+  FitText(GetWindow(hwnd_, GW_CHILD));
   // A list that is resized or gets another font completes the text in its line to an item and marks
   // it.
   if (!open_) ShowWhatCounts();
@@ -73,6 +85,18 @@ void List::WidenForArrow(int height) {
   SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   CutTo(CreateRectRgn(0, 0, width, height));
+}
+
+void List::Draw(const DRAWITEMSTRUCT& item) {
+  const bool is_selected = (item.itemState & ODS_SELECTED) != 0;
+  FillRect(item.hDC, &item.rcItem, GetSysColorBrush(is_selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+  SetTextColor(item.hDC, GetSysColor(is_selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
+  SetBkMode(item.hDC, TRANSPARENT);
+  RECT text = item.rcItem;
+  text.left += 1;
+  DrawTextW(item.hDC, Wide(std::u16string(Item(static_cast<int>(item.itemID)))), -1, &text,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
+  if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
 // A list that is browsed still holds the last choice; in a closed one the item counts that the line

@@ -65,6 +65,15 @@ std::u16string TextOf(HWND window) {
   return text;
 }
 
+int LineHeight(HWND control) {
+  const HDC dc = GetDC(control);
+  SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+  TEXTMETRICW metrics;
+  GetTextMetricsW(dc, &metrics);
+  ReleaseDC(control, dc);
+  return metrics.tmHeight;
+}
+
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
   if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);

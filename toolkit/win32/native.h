@@ -48,12 +48,8 @@ HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi);
 // The text of a window.
 std::u16string TextOf(HWND window);
 
-// Takes away the margins that what can be typed in has with outline fonts, and not with bitmaps:
-// the fields are just wide enough for their texts, the pane for lines of 76 characters. To be
-// called after the font is set.
-inline void TakeMargins(HWND edit) {
-  SendMessageW(edit, EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
-}
+// The height in pixels of a line of text in the font of a control.
+int LineHeight(HWND control);
 
 class NativeWindow;
 
@@ -78,6 +74,7 @@ class Native {
   void CutTo(HRGN region);   // draws nothing outside it; null takes the cut back
 
   virtual void OnCommand(WORD) {}  // a notification that came with WM_COMMAND
+  virtual void Draw(const DRAWITEMSTRUCT&) {}
 
  protected:
   void UseFont(bool bold);

@@ -222,6 +222,11 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_COMMAND:
       OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));
       return 0;
+    case WM_DRAWITEM: {
+      const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
+      if (Native* const control = ControlOf(item.hwndItem)) control->Draw(item);
+      return TRUE;
+    }
     case DeferredMessage:
       RunDeferred();
       return 0;

@@ -2,6 +2,8 @@
 
 #include <commctrl.h>
 
+#include "centered_edit.h"
+
 namespace Win32 {
 
 namespace {
@@ -32,12 +34,13 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
+  if (!row.properties.several_lines) CenterText(hwnd_);
   SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void TextBox::Place() {
   Native::Place();
-  TakeMargins(hwnd_);
+  FitText(hwnd_);
 }
 
 LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
