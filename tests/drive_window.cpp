@@ -108,12 +108,31 @@ TEST_F(RealWindow, NothingGoesOnBehindABox) {
   Fill(u"txbYearCE0", u" 3");
   PostMessageW(GetNextDlgTabItem(box, nullptr, FALSE), WM_KEYDOWN, VK_RETURN, Held);
   PostMessageW(window, WM_TIMER, 1, 0);
+  PostMessageW(Control(u"cmdTBF0"), BM_CLICK, 0, 0);
+  for (const UINT message : {WM_KEYDOWN + 0u, WM_KEYUP + 0u}) {
+    PostMessageW(Control(u"txbYearCE0"), message, VK_RETURN, 1);
+  }
   PostMessageW(Control(u"txbYearCE0"), WM_CHAR, u'0', 0);
   EXPECT_SEEN(Read(u"txbYearCE0"), u"0 3");
+  EXPECT_EQ(GetLastActivePopup(window), box);
   EXPECT_EQ(Focus(), AtBox);
   Press({VK_ESCAPE});
   EXPECT_SEEN(Focus(), u"cmdConvert");
   EXPECT_TRUE(is_framed());
+}
+
+TEST_F(RealWindow, OnlyHandlesOfItsOwnControlsCount) {
+  const HWND strange = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr,
+                                       GetModuleHandleW(nullptr), nullptr);
+  SetWindowLongPtrW(strange, GWLP_USERDATA, 1);
+  for (const HWND handle : {strange, window, Control(u"lblM")}) {
+    for (const UINT message : {WM_COMMAND + 0u, WM_CTLCOLORSTATIC + 0u, WM_APP + 0u, WM_APP + 1u}) {
+      PostMessageW(window, message, reinterpret_cast<WPARAM>(handle),
+                   reinterpret_cast<LPARAM>(handle));
+    }
+  }
+  Press({VK_TAB});
+  EXPECT_SEEN(Focus(), u"cmdTBF0");
 }
 
 TEST_F(RealWindow, TheEnterThatClosesABoxIsSpent) {
