@@ -32,9 +32,9 @@ constexpr int Patience = 10000;
 
 // Looks until `see` gives `wanted`, and gives what it saw last.
 template <class See, class Wanted>
-auto Await(See see, const Wanted& wanted) {
+auto Await(See see, const Wanted& wanted, int most_looks = Patience) {
   auto seen = see();
-  for (int looks = 1; seen != wanted && looks < Patience; ++looks) {
+  for (int looks = 1; seen != wanted && looks < most_looks; ++looks) {
     Sleep(2);
     seen = see();
   }
@@ -45,6 +45,13 @@ inline Text TextOf(HWND window) {
   Text text(static_cast<std::size_t>(SendMessageW(window, WM_GETTEXTLENGTH, 0, 0)), u'\0');
   SendMessageW(window, WM_GETTEXT, text.size() + 1, reinterpret_cast<LPARAM>(text.data()));
   return text;
+}
+
+inline COLORREF ScreenPixel(int x, int y) {
+  const HDC screen = GetDC(nullptr);
+  const COLORREF color = GetPixel(screen, x, y);
+  ReleaseDC(nullptr, screen);
+  return color;
 }
 
 inline void Key(WORD key, bool down) {
@@ -124,16 +131,32 @@ struct RealWindow : testing::Test {
     return u"";
   }
 
-  // How many points are black on a line across the caption of an option.
-  int Black(View option) const {
+  // The colour of a point on the middle of the height of a control, counted from its left edge.
+  COLORREF Pixel(View control, int x) const {
     RECT place;
-    GetWindowRect(Control(option), &place);
+    GetWindowRect(Control(control), &place);
+    return ScreenPixel(place.left + x, (place.top + place.bottom) / 2);
+  }
+  // For each dark point of a control its row, from the top of the client area. Its border and the
+  // arrow of a list are left out. Takes up to a tenth of a second.
+  std::vector<LONG> Ink(View control) const {
+    constexpr LONG Border = 3;
+    RECT place;
+    GetWindowRect(Control(control), &place);
+    COMBOBOXINFO list = {};
+    list.cbSize = sizeof list;
+    if (GetComboBoxInfo(Control(control), &list)) place.right = place.left + list.rcButton.left;
+    POINT client = {0, 0};
+    ClientToScreen(window, &client);
     const HDC screen = GetDC(nullptr);
-    int black = 0;
-    for (LONG x = place.left + 20; x < place.right; ++x)
-      black += GetPixel(screen, x, (place.top + place.bottom) / 2) == RGB(0, 0, 0);
+    std::vector<LONG> rows;
+    for (LONG y = place.top + Border; y < place.bottom - Border; ++y) {
+      for (LONG x = place.left + Border; x < place.right - Border; ++x) {
+        if (GetGValue(GetPixel(screen, x, y)) < 100) rows.push_back(y - client.y);
+      }
+    }
     ReleaseDC(nullptr, screen);
-    return black;
+    return rows;
   }
 
   // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.

@@ -58,13 +58,46 @@ TEST_F(RealWindow, StandsAsStored) {
   EXPECT_EQ(Ask(u"txbYearCE1", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
   ExpectPlaces(*this, dpi);
-  POINT ground = {2, 2};
-  ClientToScreen(window, &ground);
-  const HDC screen = GetDC(nullptr);
-  EXPECT_SEEN(GetPixel(screen, ground.x, ground.y), RGB(240, 232, 0));
+  constexpr COLORREF Yellow = RGB(240, 232, 0);
+  EXPECT_SEEN(Pixel(u"cmdConvert", -5), Yellow);
+  // Fields beside which a label or an option button reaches over the border.
+  for (const Text field : {u"cboMonth1", u"cboMType", u"txbMetNum"}) {
+    EXPECT_NE(Pixel(field, 0), Yellow) << testing::PrintToString(field);
+  }
+  // A list that is wider on a small desktop is cut to its bounds.
+  EXPECT_EQ(Pixel(u"cboDay2", Pixels(600, dpi) + 2), Yellow);
+  int icon = 0;  // which has the yellow, in the title bar
+  for (int x = outer.left; x < outer.left + 30; ++x) {
+    icon += ScreenPixel(x, outer.top + GetSystemMetrics(SM_CYCAPTION) / 2) == Yellow;
+  }
+  EXPECT_GT(icon, 0);
   SYSTEMTIME now;
   GetLocalTime(&now);
   EXPECT_EQ(Ask(u"cboDay0", CB_GETCURSEL), now.wDay - 1);
+}
+
+// Texts without descenders, but for the weekdays: these share their top with the month.
+TEST_F(RealWindow, TextsAreInTheMiddleOfTheirFields) {
+  for (const Text month : {u"cboMonth0", u"cboMonth1"}) {
+    SendMessageW(Control(month), CB_SETCURSEL, 10, 0);  // November
+  }
+  Fill(u"cboYearInMet", u"Text");
+  const int dpi = static_cast<int>(GetDpiForWindow(window));
+  for (const Toolkit::StoredControl& row : Layout::Rows) {
+    const bool is_list = row.kind == Kind::List;
+    if (!is_list && (row.kind != Kind::TextBox || row.properties.several_lines)) continue;
+    SCOPED_TRACE(testing::PrintToString(NameOf(row)));
+    const int middle = Pixels(BoundsOf(row).top, dpi) + Pixels(row.bounds.height, dpi) / 2;
+    LONG seen = 0;
+    const auto is_near = [&] {
+      const std::vector<LONG> ink = Ink(NameOf(row));
+      seen = ink.empty() ? 0 : (ink.front() + ink.back() + 1) / 2;
+      return std::abs(seen - middle) <= 1;
+    };
+    EXPECT_TRUE(Await(is_near, true, 100)) << seen << " instead of " << middle;
+  }
+  EXPECT_NEAR(Ink(u"cboMonth0").front(), Ink(u"lblDayOfWeek0").front(), 1);
+  EXPECT_NEAR(Ink(u"cboMonth2").front(), Ink(u"lblDayOfWeek2").front(), 2);
 }
 
 TEST_F(RealWindow, TabGoesRoundAllStops) {
@@ -76,11 +109,11 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
     Press({VK_TAB});
     EXPECT_SEEN(Focus(), next);
   }
-  const int plain = Black(u"optCalendar1");
+  const std::size_t plain = Ink(u"optCalendar1").size();
   GoTo(u"optCalendar0");
   Press({VK_DOWN});
   EXPECT_SEEN(Focus(), u"cmdConvert");
-  EXPECT_SEEN(Black(u"optCalendar1") > plain, true) << "the chosen one is bold";
+  EXPECT_SEEN(Ink(u"optCalendar1").size() > plain, true) << "the chosen one is bold";
   EXPECT_EQ(Ask(u"optCalendar1", BM_GETCHECK), BST_CHECKED);
 }
 
@@ -92,7 +125,22 @@ TEST_F(RealWindow, EnterConvertsAndEscapeDoesNothing) {
   PostMessageW(Control(u"cmdConvert"), WM_KEYDOWN, VK_RETURN, Held);
   Press({VK_TAB});
   EXPECT_SEEN(Focus(), u"cmdTBF0");
-  EXPECT_EQ(Read(u"txbOutput"), pane) << "the key was held, not pressed anew";
+  EXPECT_EQ(Read(u"txbOutput"), pane) << "the key was held, not pressed again";
+  Fill(u"txbOutput", u"");
+  GoTo(u"txbOutput");
+  for (const LPARAM state : {LPARAM{1}, Held, Held}) {
+    PostMessageW(Control(u"txbOutput"), WM_KEYDOWN, VK_RETURN, state);
+  }
+  EXPECT_SEEN(Read(u"txbOutput"), u"\r\n\r\n\r\n");
+}
+
+TEST_F(RealWindow, EnterAfterAClickPressesTheFocusedButton) {
+  Fill(u"txbYearCE0", u"1");
+  Click(Control(u"cmdTBF0"));
+  EXPECT_SEEN(Read(u"txbYearCE0") != u"1", true);
+  const std::size_t block = Read(u"txbOutput").size();
+  Press({VK_RETURN});
+  EXPECT_SEEN(Read(u"txbOutput").size(), 2 * block);
 }
 
 TEST_F(RealWindow, NothingGoesOnBehindABox) {
@@ -220,6 +268,28 @@ TEST_F(RealWindow, AnotherScaleLeavesWhatTheListsHold) {
   EXPECT_SEEN(Focus(), u"cmdConvert");
 }
 
+TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
+  const auto bounds = [this] {
+    RECT outer;
+    GetWindowRect(window, &outer);
+    return std::array{outer.left, outer.top, outer.right, outer.bottom};
+  };
+  const int dpi = static_cast<int>(GetDpiForWindow(window));
+  SendMessageW(window, WM_ENTERSIZEMOVE, 0, 0);
+  SetWindowPos(window, nullptr, -100, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+  const auto dragged = bounds();
+  SendMessageW(window, WM_THEMECHANGED, 0, 0);
+  EXPECT_EQ(bounds(), dragged);
+  TellScale(dpi * 5 / 4);
+  EXPECT_EQ(bounds(), dragged) << "which the message gave it";
+  SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+  ExpectPlaces(*this, dpi * 5 / 4);
+  RECT client;
+  GetClientRect(window, &client);
+  EXPECT_EQ(client.right, Pixels(Layout::ClientWidth, dpi * 5 / 4));
+  EXPECT_EQ(bounds()[0], 0) << "inside the work area";
+}
+
 TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
   const HWND list = Control(u"cboGMet");
   constexpr WPARAM Up = WHEEL_DELTA << 16;
@@ -246,8 +316,10 @@ TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
   const std::size_t block = Read(u"txbOutput").size();
   const std::size_t full = 40000;  // in more than 400 lines
   Fill(u"txbOutput", Text(full, u'x'));
+  SendMessageW(Control(u"txbOutput"), EM_SETSEL, 0, -1);  // which the block must not replace
   Press({VK_SPACE});
   EXPECT_SEEN(Read(u"txbOutput").size(), full + block);
+  EXPECT_EQ(Ask(u"txbOutput", EM_GETSEL), MAKELONG(full + block, full + block));
   EXPECT_GT(Ask(u"txbOutput", EM_GETFIRSTVISIBLELINE), 400);
   GoTo(u"txbOutput");
   Press({'X'});

@@ -107,6 +107,9 @@ int NativeWindow::Run() {
 
 void NativeWindow::ShowMessage(std::u16string_view text, std::u16string_view title,
                                Toolkit::Icon icon) {
+  using Toolkit::Icon;
+  static_assert(MB_ICONEXCLAMATION + 0u == static_cast<UINT>(Icon::Exclamation) &&
+                MB_ICONINFORMATION + 0u == static_cast<UINT>(Icon::Information));
   MessageBoxW(hwnd_, Wide(std::u16string(text)), Wide(std::u16string(title)),
               MB_OK | static_cast<UINT>(icon));
 }
