@@ -13,7 +13,10 @@ int main() {
   for (const DWORD start = GetTickCount(); !pane[0]; Sleep(10)) {
     const HWND box = GetDlgItem(FindWindowW(Win32::WindowClass, nullptr), PaneId);
     if (box) SendMessageW(box, WM_GETTEXT, std::size(pane), reinterpret_cast<LPARAM>(pane));
-    if (GetTickCount() - start > 60000) return 1;
+    if (GetTickCount() - start > 60000) {
+      std::puts("No first screen after a minute");
+      return 1;
+    }
   }
   Sleep(500);  // until what was written is drawn, too
   std::printf("%ls", pane);
