@@ -109,7 +109,7 @@ struct RealWindow : testing::Test {
   }
   Text Read(View control) const { return TextOf(Control(control)); }
   // What the line of a list reads, the index, and whether the list is open.
-  std::tuple<Text, LRESULT, LRESULT> ListState(View list) const {
+  std::tuple<Text, LRESULT, LRESULT> ComboState(View list) const {
     return {Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE)};
   }
 

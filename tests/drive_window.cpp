@@ -23,12 +23,12 @@ void ExpectPlaces(const RealWindow& desk, int dpi) {
     const LONG left = Pixels(bounds.left, dpi);
     const LONG top = Pixels(bounds.top, dpi);
     // A list may be wider than what is shown of it.
-    if (row.kind == Kind::List) place.right = left + Pixels(bounds.width, dpi);
+    if (row.kind == Kind::ComboBox) place.right = left + Pixels(bounds.width, dpi);
     EXPECT_EQ(
         (std::array{place.left, place.top, place.right, place.bottom}),
         (std::array{left, top, left + Pixels(bounds.width, dpi), top + Pixels(bounds.height, dpi)}))
         << testing::PrintToString(NameOf(row));
-    if (row.kind != Kind::TextBox && row.kind != Kind::List) continue;
+    if (row.kind != Kind::TextBox && row.kind != Kind::ComboBox) continue;
     // A screen reader takes the name from the text before it, seen or not.
     const HWND name = GetWindow(desk.Control(NameOf(row)), GW_HWNDPREV);
     EXPECT_EQ(TextOf(name), Text(row.spoken_name)) << testing::PrintToString(NameOf(row));
@@ -91,7 +91,7 @@ TEST_F(RealWindow, TextsAreInTheMiddleOfTheirFields) {
   Fill(u"cboYearInMet", u"Text");
   const int dpi = static_cast<int>(GetDpiForWindow(window));
   for (const Toolkit::StoredControl& row : Layout::Rows) {
-    const bool is_list = row.kind == Kind::List;
+    const bool is_list = row.kind == Kind::ComboBox;
     if (!is_list && (row.kind != Kind::TextBox || row.properties.several_lines)) continue;
     SCOPED_TRACE(testing::PrintToString(NameOf(row)));
     const int middle = Pixels(BoundsOf(row).top, dpi) + Pixels(row.bounds.height, dpi) / 2;
@@ -233,7 +233,7 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
 TEST_F(RealWindow, ListsShowWhatCounts) {
   for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
     SCOPED_TRACE(testing::PrintToString(list));
-    const auto closed = ListState(list);
+    const auto closed = ComboState(list);
     const LRESULT index = Ask(list, CB_GETCURSEL);
     for (const bool by_mouse : {true, false}) {
       GoTo(list);
@@ -243,17 +243,17 @@ TEST_F(RealWindow, ListsShowWhatCounts) {
       EXPECT_SEEN(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
       PostMessageW(window, WM_TIMER, 1, 0);  // a tick: what is browsed does not count
       by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
-      EXPECT_SEEN(ListState(list), closed);
+      EXPECT_SEEN(ComboState(list), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
     Fill(list, u"abc");
     Press({VK_F4});
     EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
     Press({VK_ESCAPE});
-    EXPECT_SEEN(ListState(list), std::tuple(Text(u"abc"), -1, FALSE));
+    EXPECT_SEEN(ComboState(list), std::tuple(Text(u"abc"), -1, FALSE));
     GoTo(u"cmdTBF0");
     Press({VK_RETURN});
-    EXPECT_SEEN(ListState(list), closed);
+    EXPECT_SEEN(ComboState(list), closed);
   }
 }
 
@@ -265,11 +265,11 @@ TEST_F(RealWindow, AnotherScaleLeavesWhatTheListsHold) {
   GoTo(u"cboGMet");
   for (const int scale : {dpi * 5 / 4, dpi}) {
     Press({VK_F4, VK_UP});
-    EXPECT_SEEN(ListState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
+    EXPECT_SEEN(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
     TellScale(scale);
     ExpectPlaces(*this, scale);
-    EXPECT_EQ(ListState(u"cboGMet"), std::tuple(Text(u"GMet-2"), 1, FALSE));
-    EXPECT_EQ(ListState(u"cboYearInMet"), std::tuple(Text(u"l"), -1, FALSE));
+    EXPECT_EQ(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-2"), 1, FALSE));
+    EXPECT_EQ(ComboState(u"cboYearInMet"), std::tuple(Text(u"l"), -1, FALSE));
   }
   Press({VK_UP});  // a choice again
   EXPECT_SEEN(Focus(), u"cmdConvert");

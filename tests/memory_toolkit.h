@@ -42,7 +42,7 @@ struct Label : Toolkit::Label {
   void ApplyCaption() override { screen.applied += "Caption "; }
 };
 
-struct List : Toolkit::List {
+struct ComboBox : Toolkit::ComboBox {
   int index = -1;
   int ListIndex() const override { return index; }
   void ApplyNewItem(const std::u16string&) override {}
@@ -84,7 +84,7 @@ struct Window : Toolkit::Window {
     if (row.kind == Kind::Frame) control = std::make_unique<Toolkit::Frame>();
     if (row.kind == Kind::Label) control = std::make_unique<Label>(row.text);
     if (row.kind == Kind::TextBox) control = std::make_unique<TextBox>(row.text);
-    if (row.kind == Kind::List) control = std::make_unique<List>();
+    if (row.kind == Kind::ComboBox) control = std::make_unique<ComboBox>();
     if (row.kind == Kind::OptionButton) control = std::make_unique<OptionButton>(*this);
     if (row.kind == Kind::CommandButton) control = std::make_unique<CommandButton>(row.text);
     controls[NameOf(row)] = control.get();

@@ -36,7 +36,8 @@ struct Form : testing::Test {
     Text text;
     for (Toolkit::Control* const field : fields[row]) {
       if (auto* const box = dynamic_cast<Memory::TextBox*>(field)) text += box->text;
-      if (auto* const list = dynamic_cast<Memory::List*>(field)) text += list->Item(list->index);
+      if (auto* const list = dynamic_cast<Memory::ComboBox*>(field))
+        text += list->Item(list->index);
       text += u" ";
     }
     return text + form.lblDayOfWeek[row].Caption();
@@ -50,7 +51,7 @@ struct Form : testing::Test {
       const View word = words.substr(0, words.find(u' '));
       words.remove_prefix(std::min(words.size(), word.size() + 1));
       if (auto* const box = dynamic_cast<Toolkit::TextBox*>(field)) box->SetText(word);
-      if (auto* const list = dynamic_cast<Toolkit::List*>(field)) {
+      if (auto* const list = dynamic_cast<Toolkit::ComboBox*>(field)) {
         int index = list->ListCount() - 1;
         while (index >= 0 && list->Item(index) != word) --index;
         list->SetListIndex(index);
@@ -219,11 +220,12 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
       {u"cboGMet", u"GMet-1 GMet-2 ", Lunar},
       // clang-format on
   };
-  EXPECT_EQ(std::ranges::count(Layout::Rows, Toolkit::Kind::List, &Toolkit::StoredControl::kind),
-            std::ssize(rows));
+  EXPECT_EQ(
+      std::ranges::count(Layout::Rows, Toolkit::Kind::ComboBox, &Toolkit::StoredControl::kind),
+      std::ssize(rows));
   for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));
-    auto& list = dynamic_cast<Memory::List&>(*window.controls.at(name));
+    auto& list = dynamic_cast<Memory::ComboBox&>(*window.controls.at(name));
     Text seen;
     for (int index = 0; index < list.ListCount(); ++index) seen.append(list.Item(index)) += u' ';
     EXPECT_EQ(seen, items);

@@ -58,22 +58,22 @@ void TextBox::NoteKeyUp(std::int16_t key_code, std::int16_t shift) {
   if (KeyUp) KeyUp(key_code, shift);
 }
 
-void List::AddItem(std::u16string_view item) {
+void ComboBox::AddItem(std::u16string_view item) {
   items_.emplace_back(item);
   ApplyNewItem(items_.back());
 }
 
-void List::Clear() {
+void ComboBox::Clear() {
   items_.clear();
   ApplyClear();
 }
 
-std::u16string_view List::Item(int index) const {
+std::u16string_view ComboBox::Item(int index) const {
   if (index < 0 || index >= ListCount()) return {};
   return items_[static_cast<std::size_t>(index)];
 }
 
-void List::SetListIndex(int index) {
+void ComboBox::SetListIndex(int index) {
   if (ListIndex() != index) ApplyListIndex(index);
   Raise(Click);
 }

@@ -67,7 +67,7 @@ struct Font {
   int height;  // twips of the em, so without the space above the letters; 20 are a point
 };
 
-enum class Kind { Frame, Label, TextBox, List, OptionButton, CommandButton };
+enum class Kind { Frame, Label, TextBox, ComboBox, OptionButton, CommandButton };
 
 struct Bounds {
   int left, top, width, height;
@@ -180,9 +180,9 @@ class TextBox : public Control {
 
 inline constexpr std::int16_t EnterKey = 13;
 
-class List : public Control {
+class ComboBox : public Control {
  public:
-  static constexpr Kind OwnKind = Kind::List;
+  static constexpr Kind OwnKind = Kind::ComboBox;
   Event Click;
 
   void AddItem(std::u16string_view item);

@@ -63,13 +63,13 @@ class frmMain {
   Toolkit::CommandButton& cmdQuit = Control<Toolkit::CommandButton>(u"cmdQuit");
   ControlGroup<Toolkit::OptionButton, 3> optCalendar =
       Group<Toolkit::OptionButton, 3>(u"optCalendar");
-  ControlGroup<Toolkit::List, 3> cboMonth = Group<Toolkit::List, 3>(u"cboMonth");
-  ControlGroup<Toolkit::List, 3> cboDay = Group<Toolkit::List, 3>(u"cboDay");
+  ControlGroup<Toolkit::ComboBox, 3> cboMonth = Group<Toolkit::ComboBox, 3>(u"cboMonth");
+  ControlGroup<Toolkit::ComboBox, 3> cboDay = Group<Toolkit::ComboBox, 3>(u"cboDay");
   ControlGroup<Toolkit::TextBox, 2> txbYearCE = Group<Toolkit::TextBox, 2>(u"txbYearCE");
   ControlGroup<Toolkit::Label, 3> lblDayOfWeek = Group<Toolkit::Label, 3>(u"lblDayOfWeek");
-  Toolkit::List& cboGMet = Control<Toolkit::List>(u"cboGMet");
-  Toolkit::List& cboMType = Control<Toolkit::List>(u"cboMType");
-  Toolkit::List& cboYearInMet = Control<Toolkit::List>(u"cboYearInMet");
+  Toolkit::ComboBox& cboGMet = Control<Toolkit::ComboBox>(u"cboGMet");
+  Toolkit::ComboBox& cboMType = Control<Toolkit::ComboBox>(u"cboMType");
+  Toolkit::ComboBox& cboYearInMet = Control<Toolkit::ComboBox>(u"cboYearInMet");
   Toolkit::TextBox& txbMetNum = Control<Toolkit::TextBox>(u"txbMetNum");
   Toolkit::Label& lblM = Control<Toolkit::Label>(u"lblM");
   Toolkit::Label& lblDash = Control<Toolkit::Label>(u"lblDash");
@@ -116,7 +116,7 @@ class frmMain {
   // tick.cpp. Once a second: the same-day sentence, and which commands can be pressed.
   void Timer1_Timer();
 
-  // list_clicks.cpp. A new selection blanks the weekday of its row and hands the focus to Convert.
+  // combo_clicks.cpp. A new selection blanks the weekday of its row and hands the focus to Convert.
   // While the window is being loaded, months and days do nothing.
   void cboGMet_Click();
   void cboYearInMet_Click();

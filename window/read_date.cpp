@@ -11,7 +11,7 @@ namespace {
 
 // The number of the selected item of `list`, counted from 1; 0 when nothing is selected.
 template <class Number>
-Number SelectedNumber(const Toolkit::List& list) {
+Number SelectedNumber(const Toolkit::ComboBox& list) {
   return static_cast<Number>(list.ListIndex() + 1);
 }
 

@@ -7,7 +7,7 @@ namespace {
 
 // Selects the first item of `list` that reads `text`. Years and months are found by their text,
 // since the lists do not run evenly: "LYA-1" and "LYB-1" are both year 1.
-void SelectItem(Toolkit::List& list, const std::u16string& text) {
+void SelectItem(Toolkit::ComboBox& list, const std::u16string& text) {
   for (int index = 0; index < list.ListCount(); ++index) {
     if (list.Item(index) == text) {
       list.SetListIndex(index);

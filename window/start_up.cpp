@@ -7,7 +7,7 @@ namespace {
 
 constexpr Toolkit::Color Yellow = 0xE8F0;  // red 240, green 232, blue 0
 
-void FillList(Toolkit::List& list, const std::vector<std::u16string>& items, int selected) {
+void FillComboBox(Toolkit::ComboBox& list, const std::vector<std::u16string>& items, int selected) {
   list.Clear();
   for (const std::u16string& item : items) list.AddItem(item);
   list.SetListIndex(selected);
@@ -86,13 +86,13 @@ void frmMain::Form_Load() {
 void frmMain::FillDateLists() {
   const auto& months = DatePr2::MonthNames;
   const std::vector<std::u16string> month_items(months.begin() + 1, months.end());
-  FillList(cboMonth[Gregorian], month_items, 0);
-  FillList(cboMonth[Solar], month_items, 0);
-  FillList(cboMonth[Lunar], LunarMonths(), 0);
-  FillList(cboYearInMet, YearsOfMetCycle(), 0);
-  FillList(cboDay[Gregorian], Numbers(31), 0);
-  FillList(cboDay[Solar], Numbers(31), 0);
-  FillList(cboDay[Lunar], Numbers(30), 0);
-  FillList(cboMType, {u"A", u"B", u"C"}, 0);
-  FillList(cboGMet, GreatCycles(), 1);  // GMet-2, in which we live
+  FillComboBox(cboMonth[Gregorian], month_items, 0);
+  FillComboBox(cboMonth[Solar], month_items, 0);
+  FillComboBox(cboMonth[Lunar], LunarMonths(), 0);
+  FillComboBox(cboYearInMet, YearsOfMetCycle(), 0);
+  FillComboBox(cboDay[Gregorian], Numbers(31), 0);
+  FillComboBox(cboDay[Solar], Numbers(31), 0);
+  FillComboBox(cboDay[Lunar], Numbers(30), 0);
+  FillComboBox(cboMType, {u"A", u"B", u"C"}, 0);
+  FillComboBox(cboGMet, GreatCycles(), 1);  // GMet-2, in which we live
 }

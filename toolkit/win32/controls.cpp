@@ -11,8 +11,8 @@ std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::Stored
       return std::make_unique<Label>(*this, row);
     case Toolkit::Kind::TextBox:
       return std::make_unique<TextBox>(*this, row);
-    case Toolkit::Kind::List:
-      return std::make_unique<List>(*this, row);
+    case Toolkit::Kind::ComboBox:
+      return std::make_unique<ComboBox>(*this, row);
     case Toolkit::Kind::OptionButton:
       return std::make_unique<OptionButton>(*this, row);
     case Toolkit::Kind::CommandButton:

@@ -38,9 +38,9 @@ class TextBox : public Toolkit::TextBox, public Native {
   void SelectText(Selection selection) override;
 };
 
-class List : public Toolkit::List, public Native {
+class ComboBox : public Toolkit::ComboBox, public Native {
  public:
-  List(NativeWindow& window, const Toolkit::StoredControl& row);
+  ComboBox(NativeWindow& window, const Toolkit::StoredControl& row);
   int ListIndex() const override;
 
  private:

@@ -161,7 +161,7 @@ bool NativeWindow::IsWheelOfAnother(const MSG& message) const {
   if (message.message != WM_MOUSEWHEEL) return false;
   const Native* control = ControlOf(message.hwnd);
   if (!control) control = ControlOf(GetParent(message.hwnd));  // of the line in a list
-  return control && control->Kind() == Toolkit::Kind::List && !control->HoldsFocus();
+  return control && control->Kind() == Toolkit::Kind::ComboBox && !control->HoldsFocus();
 }
 
 void NativeWindow::RememberFocus() {

@@ -114,7 +114,8 @@ void NativeWindow::KeepOffFields() {
     const RECT rect = ground->StoredPlace();
     HRGN region = nullptr;
     for (const Native* const field : controls_) {
-      if (field->Kind() != Toolkit::Kind::TextBox && field->Kind() != Toolkit::Kind::List) continue;
+      if (field->Kind() != Toolkit::Kind::TextBox && field->Kind() != Toolkit::Kind::ComboBox)
+        continue;
       const RECT cut = field->StoredPlace();
       RECT common;
       if (!IntersectRect(&common, &rect, &cut)) continue;

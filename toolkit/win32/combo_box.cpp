@@ -8,8 +8,8 @@ namespace Win32 {
 
 namespace {
 
-constexpr WPARAM ItemsShown = 12;                       // at most, in the open list
-constexpr WPARAM ClosedPart = static_cast<WPARAM>(-1);  // the item height of the closed list
+constexpr WPARAM ItemsShown = 12;                           // at most, in the open list
+constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // the item height of the closed list
 
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
   // A list of choice is drawn by us, with its text in the middle; screen readers still get the
@@ -23,7 +23,7 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 }  // namespace
 
-List::List(NativeWindow& window, const Toolkit::StoredControl& row)
+ComboBox::ComboBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)), typed_text_(row.text) {
   if (row.properties.typed_in) {
     SetWindowTextW(hwnd_, WideLiteral(row.text));
@@ -32,7 +32,7 @@ List::List(NativeWindow& window, const Toolkit::StoredControl& row)
   Send(CB_SETMINVISIBLE, ItemsShown);
 }
 
-void List::Place() {
+void ComboBox::Place() {
   // An open list that gets its size or its font may close and say nothing, keep the mouse, or take
   // the item that is browsed: it is closed before, without a choice.
   if (Send(CB_GETDROPPEDSTATE)) {
@@ -48,14 +48,14 @@ void List::Place() {
   WidenForArrow(height);
   // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
   // Wine adds 2 to what it is told.
-  LRESULT text_height = Send(CB_GETITEMHEIGHT, ClosedPart);
+  LRESULT text_height = Send(CB_GETITEMHEIGHT, SelectionField);
   for (int tries = 0; tries < 2; ++tries) {
     RECT closed;
     GetWindowRect(hwnd_, &closed);
     const int missing = height - (closed.bottom - closed.top);
     if (missing == 0) break;
     text_height += missing;
-    Send(CB_SETITEMHEIGHT, ClosedPart, text_height);
+    Send(CB_SETITEMHEIGHT, SelectionField, text_height);
   }
   if (!row_.properties.typed_in) {
     Send(CB_SETITEMHEIGHT, 0, LineHeight(hwnd_));
@@ -71,7 +71,7 @@ void List::Place() {
 // The arrow is as wide as the scroll bars of the monitor. Where the window is drawn smaller than
 // that it would leave no room for the text: the list gets wider by what is too much, and ends, for
 // the eye and for the mouse, where it should.
-void List::WidenForArrow(int height) {
+void ComboBox::WidenForArrow(int height) {
   COMBOBOXINFO parts = {};
   parts.cbSize = sizeof parts;
   GetComboBoxInfo(hwnd_, &parts);
@@ -87,7 +87,7 @@ void List::WidenForArrow(int height) {
   CutTo(CreateRectRgn(0, 0, width, height));
 }
 
-void List::Draw(const DRAWITEMSTRUCT& item) {
+void ComboBox::Draw(const DRAWITEMSTRUCT& item) {
   const bool is_selected = (item.itemState & ODS_SELECTED) != 0;
   FillRect(item.hDC, &item.rcItem, GetSysColorBrush(is_selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
   SetTextColor(item.hDC, GetSysColor(is_selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
@@ -101,13 +101,13 @@ void List::Draw(const DRAWITEMSTRUCT& item) {
 
 // A list that is browsed still holds the last choice; in a closed one the item counts that the line
 // reads.
-int List::ListIndex() const {
+int ComboBox::ListIndex() const {
   if (open_ || chosen_ < 0) return chosen_;
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
   return TextOf(hwnd_) == Item(now) ? now : -1;
 }
 
-void List::OnCommand(WORD code) {
+void ComboBox::OnCommand(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
       // What the line reads now counts afterwards: another program may have chosen or written it.
@@ -146,7 +146,7 @@ void List::OnCommand(WORD code) {
 
 // What counts and what is shown become the same: the item that was chosen, or what stood there
 // before. An item can be chosen by the first letters of its name alone, typed into the open list.
-void List::CommitOrRevert() {
+void ComboBox::CommitOrRevert() {
   open_ = Send(CB_GETDROPPEDSTATE) != 0;
   if (open_) return;
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
@@ -159,7 +159,7 @@ void List::CommitOrRevert() {
 
 // A native list that is left without a choice may keep the item that was browsed last, or take back
 // its index and not its text; and it completes what was typed to an item. All of that goes.
-void List::ShowWhatCounts() {
+void ComboBox::ShowWhatCounts() {
   const int index = chosen_;
   const std::u16string text(index < 0 ? typed_text_ : Item(index));
   if (Send(CB_GETCURSEL) != index || (index >= 0 && TextOf(hwnd_) != text)) {
@@ -172,23 +172,23 @@ void List::ShowWhatCounts() {
 }
 
 // A line shows its marks also while it does not have the focus.
-void List::TakeMarks() {
+void ComboBox::TakeMarks() {
   if (!row_.properties.typed_in) return;
   const WORD end = HIWORD(Send(CB_GETEDITSEL));
   Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
 }
 
-void List::ApplyNewItem(const std::u16string& item) {
+void ComboBox::ApplyNewItem(const std::u16string& item) {
   Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(item.c_str()));
 }
 
-void List::ApplyClear() {
+void ComboBox::ApplyClear() {
   Send(CB_RESETCONTENT);
   chosen_ = -1;
   typed_text_.clear();
 }
 
-void List::ApplyListIndex(int index) {
+void ComboBox::ApplyListIndex(int index) {
   SuspendRedraw();
   chosen_ = index;
   typed_text_.clear();
