@@ -31,7 +31,7 @@ void ExpectPlaces(const RealWindow& desk, int dpi) {
     if (row.kind != Kind::TextBox && row.kind != Kind::ComboBox) continue;
     // A screen reader takes the name from the text before it, seen or not.
     const HWND name = GetWindow(desk.Control(NameOf(row)), GW_HWNDPREV);
-    EXPECT_EQ(TextOf(name), Text(row.spoken_name)) << testing::PrintToString(NameOf(row));
+    EXPECT_EQ(TextOf(name), Text(row.accessible_name)) << testing::PrintToString(NameOf(row));
   }
 }
 
@@ -92,7 +92,7 @@ TEST_F(RealWindow, TextsAreInTheMiddleOfTheirFields) {
   const int dpi = static_cast<int>(GetDpiForWindow(window));
   for (const Toolkit::StoredControl& row : Layout::Rows) {
     const bool is_list = row.kind == Kind::ComboBox;
-    if (!is_list && (row.kind != Kind::TextBox || row.properties.several_lines)) continue;
+    if (!is_list && (row.kind != Kind::TextBox || row.properties.multiline)) continue;
     SCOPED_TRACE(testing::PrintToString(NameOf(row)));
     const int middle = Pixels(BoundsOf(row).top, dpi) + Pixels(row.bounds.height, dpi) / 2;
     LONG seen = 0;

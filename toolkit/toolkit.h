@@ -84,13 +84,13 @@ struct StoredControl {
   Bounds bounds;             // within the container
   std::u16string_view text;  // the caption, the first text of a box or of a line to type in
   Font font;
-  std::u16string_view spoken_name;  // what a screen reader says; empty: the caption serves
+  std::u16string_view accessible_name;  // what a screen reader says; empty: the caption serves
 
   struct Properties {
-    bool centred = false;        // label: text in the middle
-    bool several_lines = false;  // text box: several lines, vertical scroll bar
-    int max_length = 0;          // text box: characters that can be typed; 0 is no limit
-    bool typed_in = false;       // list: a line that the user can type in
+    bool centered = false;   // label: text in the middle
+    bool multiline = false;  // text box: several lines, vertical scroll bar
+    int max_length = 0;      // text box: characters that can be typed; 0 is no limit
+    bool editable = false;   // list: a line that the user can type in
   } properties;
 };
 inline constexpr int NoIndex = -1;

@@ -14,7 +14,7 @@ constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // the item height o
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
   // A list of choice is drawn by us, with its text in the middle; screen readers still get the
   // text.
-  const DWORD line = row.properties.typed_in
+  const DWORD line = row.properties.editable
                          ? CBS_DROPDOWN | CBS_AUTOHSCROLL
                          : CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
   // Clips children as a label does: a list that is wider than its row is cut to it.
@@ -25,7 +25,7 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 ComboBox::ComboBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)), typed_text_(row.text) {
-  if (row.properties.typed_in) {
+  if (row.properties.editable) {
     SetWindowTextW(hwnd_, WideLiteral(row.text));
     CenterText(GetWindow(hwnd_, GW_CHILD));
   }
@@ -57,7 +57,7 @@ void ComboBox::Place() {
     text_height += missing;
     Send(CB_SETITEMHEIGHT, SelectionField, text_height);
   }
-  if (!row_.properties.typed_in) {
+  if (!row_.properties.editable) {
     Send(CB_SETITEMHEIGHT, 0, LineHeight(hwnd_));
     return;
   }
@@ -173,7 +173,7 @@ void ComboBox::ShowWhatCounts() {
 
 // A line shows its marks also while it does not have the focus.
 void ComboBox::TakeMarks() {
-  if (!row_.properties.typed_in) return;
+  if (!row_.properties.editable) return;
   const WORD end = HIWORD(Send(CB_GETEDITSEL));
   Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
 }

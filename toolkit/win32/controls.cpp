@@ -29,7 +29,7 @@ Frame::Frame(NativeWindow& window, const Toolkit::StoredControl& row)
 Label::Label(NativeWindow& window, const Toolkit::StoredControl& row)
     : Toolkit::Label(row.text),
       Native(window, row,
-             {L"STATIC", (row.properties.centred ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
+             {L"STATIC", (row.properties.centered ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
                              SS_NOPREFIX | WS_GROUP | WS_CLIPCHILDREN}) {}
 
 void Label::ApplyCaption() {

@@ -18,7 +18,7 @@ const char16_t* FaceAt(std::u16string_view face, int dpi) {
 
 // Screen readers take the name of a text box or a list from the text that stands before it. No one
 // else sees this one: it is not visible, and it has no number of its own.
-void PutNameBefore(HWND window, std::u16string_view name) {
+void CreateAccessibleName(HWND window, std::u16string_view name) {
   constexpr INT_PTR NoNumber = 0xFFFF;
   Made(CreateWindowExW(0, L"STATIC", WideLiteral(name), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
                        reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr));
@@ -76,7 +76,7 @@ int LineHeight(HWND control) {
 
 Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
     : window_(window), row_(row) {
-  if (!row.spoken_name.empty()) PutNameBefore(window.Hwnd(), row.spoken_name);
+  if (!row.accessible_name.empty()) CreateAccessibleName(window.Hwnd(), row.accessible_name);
   hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, WideLiteral(row.text),
                                WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
                                reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),

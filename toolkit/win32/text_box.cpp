@@ -12,7 +12,7 @@ constexpr WPARAM NoLimit = 0x7FFFFFFE;  // the most that the native control take
 constexpr WPARAM CtrlA = 1;             // the character that Ctrl+A types
 
 Native::Style StyleOf(const Toolkit::StoredControl& row) {
-  const DWORD lines = row.properties.several_lines
+  const DWORD lines = row.properties.multiline
                           ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL
                           : ES_AUTOHSCROLL;
   return {L"EDIT", lines | WS_TABSTOP | WS_GROUP, WS_EX_CLIENTEDGE};
@@ -34,7 +34,7 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::StoredControl& row)
     : Native(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
-  if (!row.properties.several_lines) CenterText(hwnd_);
+  if (!row.properties.multiline) CenterText(hwnd_);
   SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
@@ -77,7 +77,7 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       if (wparam == CtrlA) SelectText({0, -1});
       // A box of one line would beep at Enter, with Ctrl or without.
       return wparam == CtrlA ||
-             ((wparam == u'\r' || wparam == u'\n') && !row_.properties.several_lines);
+             ((wparam == u'\r' || wparam == u'\n') && !row_.properties.multiline);
     case WM_SYSCHAR:  // Alt+Enter, at which the system would beep
       return wparam == u'\r';
     default:
@@ -87,14 +87,14 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
 
 // Ctrl+Tab, as the key or as its character, which have the same number.
 bool TextBox::IsTypedTab(WPARAM key) const {
-  return key == VK_TAB && IsDown(VK_CONTROL) && row_.properties.several_lines;
+  return key == VK_TAB && IsDown(VK_CONTROL) && row_.properties.multiline;
 }
 
 // What the dialog manager leaves to the box. The native answer is not asked for: a pane that knows
 // that it stands in a dialog closes that at Escape.
 LRESULT TextBox::WantedKeys(const MSG* key) const {
   const bool key_down = key && key->message == WM_KEYDOWN;
-  if (row_.properties.several_lines) {
+  if (row_.properties.multiline) {
     // Tab leaves the pane, Ctrl+Tab types a tab. Without DLGC_HASSETSEL: coming in by Tab must not
     // select the whole log, which the next key would replace.
     const bool leaves =
