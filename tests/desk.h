@@ -123,7 +123,7 @@ struct RealWindow : testing::Test {
     GetGUIThreadInfo(0, &front);
     const HWND focus = front.hwndFocus;
     if (focus && GetWindow(front.hwndActive, GW_OWNER) == window) return AtBox;
-    for (const Toolkit::StoredControl& row : Layout::Rows) {
+    for (const Toolkit::ControlTemplate& row : Layout::Rows) {
       // A list has the focus also when the line in it has.
       const HWND control = Control(NameOf(row));
       if (focus && (focus == control || IsChild(control, focus))) return NameOf(row);

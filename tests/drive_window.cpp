@@ -15,7 +15,7 @@ constexpr LPARAM Held = LPARAM{KF_REPEAT} << 16 | 1;
 
 // Every control where its row has it at this scale, and behind its name.
 void ExpectPlaces(const RealWindow& desk, int dpi) {
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
+  for (const Toolkit::ControlTemplate& row : Layout::Rows) {
     RECT place;
     GetWindowRect(desk.Control(NameOf(row)), &place);
     MapWindowPoints(nullptr, desk.window, reinterpret_cast<POINT*>(&place), 2);
@@ -90,7 +90,7 @@ TEST_F(RealWindow, TextsAreInTheMiddleOfTheirFields) {
   }
   Fill(u"cboYearInMet", u"Text");
   const int dpi = static_cast<int>(GetDpiForWindow(window));
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
+  for (const Toolkit::ControlTemplate& row : Layout::Rows) {
     const bool is_list = row.kind == Kind::ComboBox;
     if (!is_list && (row.kind != Kind::TextBox || row.properties.multiline)) continue;
     SCOPED_TRACE(testing::PrintToString(NameOf(row)));

@@ -78,7 +78,7 @@ struct Window : Toolkit::Window {
   int milliseconds = 0;  // between two ticks
   int ends = 0;          // of the program
 
-  std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override {
+  std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::ControlTemplate& row) override {
     using Toolkit::Kind;
     std::unique_ptr<Toolkit::Control> control;
     if (row.kind == Kind::Frame) control = std::make_unique<Toolkit::Frame>();

@@ -221,7 +221,7 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
       // clang-format on
   };
   EXPECT_EQ(
-      std::ranges::count(Layout::Rows, Toolkit::Kind::ComboBox, &Toolkit::StoredControl::kind),
+      std::ranges::count(Layout::Rows, Toolkit::Kind::ComboBox, &Toolkit::ControlTemplate::kind),
       std::ssize(rows));
   for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));

@@ -40,7 +40,7 @@
 //   Ctrl+Tab         types a tab in a multiline text box
 //
 // Texts are UTF-16, positions in them count its 16-bit units, and lines end with "\r\n". Lengths of
-// the stored layout are in twips, 1/1440 of an inch. Colours are 0x00BBGGRR; keys and icons have
+// the layout are in twips, 1/1440 of an inch. Colours are 0x00BBGGRR; keys and icons have
 // the numbers of Win32.
 #pragma once
 
@@ -74,9 +74,9 @@ struct Bounds {
   bool operator==(const Bounds&) const = default;
 };
 
-// One row of a window's stored layout. The rows are in the tab order of their controls, live longer
+// One row of a window's layout. The rows are in the tab order of their controls, live longer
 // than these, and their texts are null-terminated.
-struct StoredControl {
+struct ControlTemplate {
   std::u16string_view name;
   int index;  // in the group of controls that share the name; NoIndex for a control of its own
   Kind kind;
@@ -96,7 +96,7 @@ struct StoredControl {
 inline constexpr int NoIndex = -1;
 
 // The bounds of a control within the client area.
-constexpr Bounds BoundsOf(const StoredControl& row) {
+constexpr Bounds BoundsOf(const ControlTemplate& row) {
   return {row.container.left + row.bounds.left, row.container.top + row.bounds.top,
           row.bounds.width, row.bounds.height};
 }
@@ -271,7 +271,7 @@ class Window : public Coloured, public Timer {
 
   // To be called for the rows in their order, before Run. Makes a control of the class whose
   // OwnKind is the row's kind: the form relies on that.
-  virtual std::unique_ptr<Control> NewControl(const StoredControl& row) = 0;
+  virtual std::unique_ptr<Control> NewControl(const ControlTemplate& row) = 0;
 
   // Brings the window to the middle of the screen, smaller where it would not fit, and serves it
   // until the program ends. Returns the exit code of the program.

@@ -19,7 +19,7 @@ struct ControlGroup {
 // The number of the row `name`, `index` of the layout, which must be of this kind.
 consteval std::size_t RowOf(std::u16string_view name, int index, Toolkit::Kind kind) {
   std::size_t number = 0;
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
+  for (const Toolkit::ControlTemplate& row : Layout::Rows) {
     if (row.name == name && row.index == index && row.kind == kind) {
       Layout::RequireRoom(row);
       return number;

@@ -1,4 +1,4 @@
-// The stored layout of the window: what is where before the first line of the form runs. All
+// The layout of the window: what is where before the first line of the form runs. All
 // lengths are in twips, 1/1440 of an inch.
 #pragma once
 
@@ -10,8 +10,8 @@ namespace Layout {
 
 using enum Toolkit::Kind;
 using Toolkit::Bounds;
+using Toolkit::ControlTemplate;
 using Toolkit::NoIndex;
-using Toolkit::StoredControl;
 
 // The client area. The window is of fixed size and opens in the middle of the screen.
 inline constexpr int ClientWidth = 12015;
@@ -30,7 +30,7 @@ inline constexpr Bounds InFrame = {120, 120, 11775, 2415};
 // clang-format off
 // In tab order: the tab position of a control is its row.
 // name, index, kind, container, {left, top, width, height}, text, font, spoken name, properties
-inline constexpr StoredControl Rows[] = {
+inline constexpr ControlTemplate Rows[] = {
     {u"txbOutput", NoIndex, TextBox, OnWindow, {120, 2640, 9495, 2775},
      u"", Typewriter, u"Output", {.multiline = true}},
     {u"cmdClear", NoIndex, CommandButton, OnWindow, {9840, 4560, 2055, 369},
@@ -99,12 +99,12 @@ inline constexpr StoredControl Rows[] = {
 // Labels and option buttons may reach a little into the fields beside them, which are drawn above.
 inline constexpr int MostOverlap = 60;
 
-constexpr bool MayBeOverlapped(const StoredControl& row) {
+constexpr bool MayBeOverlapped(const ControlTemplate& row) {
   return row.kind == Label || row.kind == OptionButton;
 }
 
 // Stops the build if the control leaves its container or overlaps another in it.
-consteval void RequireRoom(const StoredControl& row) {
+consteval void RequireRoom(const ControlTemplate& row) {
   const auto right = [](const Bounds& bounds) { return bounds.left + bounds.width; };
   const auto bottom = [](const Bounds& bounds) { return bounds.top + bounds.height; };
   const Bounds& own = row.bounds;
@@ -112,7 +112,7 @@ consteval void RequireRoom(const StoredControl& row) {
       bottom(own) > row.container.height) {
     throw "this control leaves its container";
   }
-  for (const StoredControl& other : Rows) {
+  for (const ControlTemplate& other : Rows) {
     if (&other == &row || other.container != row.container) continue;
     const int overlap =
         std::min(std::min(right(own), right(other.bounds)) - std::max(own.left, other.bounds.left),

@@ -4,7 +4,7 @@ namespace {
 
 std::vector<std::unique_ptr<Toolkit::Control>> NewControls(Toolkit::Window& window) {
   std::vector<std::unique_ptr<Toolkit::Control>> controls;
-  for (const Toolkit::StoredControl& row : Layout::Rows) {
+  for (const Toolkit::ControlTemplate& row : Layout::Rows) {
     controls.push_back(window.NewControl(row));
   }
   return controls;

@@ -76,7 +76,7 @@ class frmMain {
   Toolkit::Label& lblSameDay = Control<Toolkit::Label>(u"lblSameDay");
   Toolkit::Label& lblCopyright = Control<Toolkit::Label>(u"lblCopyright");
 
-  // start_up.cpp. Form_Load brings the window from its stored layout to the moment it can go on the
+  // start_up.cpp. Form_Load brings the window from its layout to the moment it can go on the
   // screen; to be called once. FillDateLists gives every list its items and selects one.
   void Form_Load();
   void FillDateLists();

@@ -11,7 +11,7 @@ namespace {
 constexpr WPARAM ItemsShown = 12;                           // at most, in the open list
 constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // the item height of the closed list
 
-Native::Style StyleOf(const Toolkit::StoredControl& row) {
+Native::Style StyleOf(const Toolkit::ControlTemplate& row) {
   // A list of choice is drawn by us, with its text in the middle; screen readers still get the
   // text.
   const DWORD line = row.properties.editable
@@ -23,7 +23,7 @@ Native::Style StyleOf(const Toolkit::StoredControl& row) {
 
 }  // namespace
 
-ComboBox::ComboBox(NativeWindow& window, const Toolkit::StoredControl& row)
+ComboBox::ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Native(window, row, StyleOf(row)), typed_text_(row.text) {
   if (row.properties.editable) {
     SetWindowTextW(hwnd_, WideLiteral(row.text));

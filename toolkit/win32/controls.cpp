@@ -3,7 +3,7 @@
 
 namespace Win32 {
 
-std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::StoredControl& row) {
+std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::ControlTemplate& row) {
   switch (row.kind) {
     case Toolkit::Kind::Frame:
       return std::make_unique<Frame>(*this, row);
@@ -21,12 +21,12 @@ std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::Stored
   return nullptr;
 }
 
-Frame::Frame(NativeWindow& window, const Toolkit::StoredControl& row)
+Frame::Frame(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Native(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
 
 // The class draws with the region of the window around it, not its own, unless the style clips
 // children.
-Label::Label(NativeWindow& window, const Toolkit::StoredControl& row)
+Label::Label(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::Label(row.text),
       Native(window, row,
              {L"STATIC", (row.properties.centered ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
@@ -37,7 +37,7 @@ void Label::ApplyCaption() {
   SetWindowTextW(hwnd_, Wide(Caption()));
 }
 
-CommandButton::CommandButton(NativeWindow& window, const Toolkit::StoredControl& row)
+CommandButton::CommandButton(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::CommandButton(row.text),
       Native(window, row, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP}) {}
 

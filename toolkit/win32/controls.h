@@ -7,12 +7,12 @@ namespace Win32 {
 
 class Frame : public Toolkit::Frame, public Native {
  public:
-  Frame(NativeWindow& window, const Toolkit::StoredControl& row);
+  Frame(NativeWindow& window, const Toolkit::ControlTemplate& row);
 };
 
 class Label : public Toolkit::Label, public Native {
  public:
-  Label(NativeWindow& window, const Toolkit::StoredControl& row);
+  Label(NativeWindow& window, const Toolkit::ControlTemplate& row);
 
  private:
   void ApplyCaption() override;
@@ -20,7 +20,7 @@ class Label : public Toolkit::Label, public Native {
 
 class TextBox : public Toolkit::TextBox, public Native {
  public:
-  TextBox(NativeWindow& window, const Toolkit::StoredControl& row);
+  TextBox(NativeWindow& window, const Toolkit::ControlTemplate& row);
   std::u16string Text() const override { return TextOf(hwnd_); }
   std::int32_t TextLength() const override { return GetWindowTextLengthW(hwnd_); }
   void AppendText(std::u16string_view text) override;
@@ -40,7 +40,7 @@ class TextBox : public Toolkit::TextBox, public Native {
 
 class ComboBox : public Toolkit::ComboBox, public Native {
  public:
-  ComboBox(NativeWindow& window, const Toolkit::StoredControl& row);
+  ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row);
   int ListIndex() const override;
 
  private:
@@ -63,7 +63,7 @@ class ComboBox : public Toolkit::ComboBox, public Native {
 
 class OptionButton : public Toolkit::OptionButton, public Native {
  public:
-  OptionButton(NativeWindow& window, const Toolkit::StoredControl& row);
+  OptionButton(NativeWindow& window, const Toolkit::ControlTemplate& row);
 
  private:
   void Place() override;
@@ -77,7 +77,7 @@ class OptionButton : public Toolkit::OptionButton, public Native {
 
 class CommandButton : public Toolkit::CommandButton, public Native {
  public:
-  CommandButton(NativeWindow& window, const Toolkit::StoredControl& row);
+  CommandButton(NativeWindow& window, const Toolkit::ControlTemplate& row);
   bool Visible() const override { return IsWindowVisible(hwnd_) != FALSE; }
   bool HasFocus() const override { return window_.Focus() == hwnd_; }
   void SetFocus() override { window_.SetFocusTo(hwnd_); }

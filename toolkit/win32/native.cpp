@@ -74,7 +74,7 @@ int LineHeight(HWND control) {
   return metrics.tmHeight;
 }
 
-Native::Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style)
+Native::Native(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style)
     : window_(window), row_(row) {
   if (!row.accessible_name.empty()) CreateAccessibleName(window.Hwnd(), row.accessible_name);
   hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, WideLiteral(row.text),

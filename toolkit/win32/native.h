@@ -60,7 +60,7 @@ class Native {
     DWORD style;
     DWORD ex_style = 0;
   };
-  Native(NativeWindow& window, const Toolkit::StoredControl& row, Style style);
+  Native(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style);
   virtual ~Native() = default;
   Native(const Native&) = delete;
   Native& operator=(const Native&) = delete;
@@ -86,7 +86,7 @@ class Native {
   }
 
   NativeWindow& window_;
-  const Toolkit::StoredControl& row_;
+  const Toolkit::ControlTemplate& row_;
   HWND hwnd_;
 
  private:

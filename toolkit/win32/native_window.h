@@ -11,7 +11,7 @@ class NativeWindow : public Toolkit::Window {
  public:
   NativeWindow(int client_width, int client_height);
 
-  std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::StoredControl& row) override;
+  std::unique_ptr<Toolkit::Control> NewControl(const Toolkit::ControlTemplate& row) override;
   int Run() override;
   void ShowMessage(std::u16string_view text, std::u16string_view title,
                    Toolkit::Icon icon) override;

@@ -3,7 +3,7 @@
 namespace Win32 {
 
 // The arrow keys move within a group, which begins at its first button. Clipped as a label is.
-OptionButton::OptionButton(NativeWindow& window, const Toolkit::StoredControl& row)
+OptionButton::OptionButton(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::OptionButton(window),
       Native(window, row,
              {L"BUTTON", BS_AUTORADIOBUTTON | WS_CLIPCHILDREN |

@@ -9,7 +9,7 @@
 namespace Win32 {
 
 // By these a program finds the window and its controls from outside. The controls are numbered as
-// the rows of the stored layout; 1 and 2 are OK and Cancel to a dialog, so they begin higher.
+// the rows of the layout; 1 and 2 are OK and Cancel to a dialog, so they begin higher.
 inline constexpr wchar_t WindowClass[] = L"TandemWindow";
 inline constexpr int FirstControlId = 100;
 
