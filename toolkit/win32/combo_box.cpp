@@ -11,7 +11,7 @@ namespace {
 constexpr WPARAM ItemsShown = 12;                           // at most, in the open list
 constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // the item height of the closed list
 
-Native::Style StyleOf(const Toolkit::ControlTemplate& row) {
+NativeControl::Style StyleOf(const Toolkit::ControlTemplate& row) {
   // A list of choice is drawn by us, with its text in the middle; screen readers still get the
   // text.
   const DWORD line = row.properties.editable
@@ -24,7 +24,7 @@ Native::Style StyleOf(const Toolkit::ControlTemplate& row) {
 }  // namespace
 
 ComboBox::ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
-    : Native(window, row, StyleOf(row)), typed_text_(row.text) {
+    : NativeControl(window, row, StyleOf(row)), typed_text_(row.text) {
   if (row.properties.editable) {
     SetWindowTextW(hwnd_, WideLiteral(row.text));
     CenterText(GetWindow(hwnd_, GW_CHILD));
@@ -43,7 +43,7 @@ void ComboBox::Place() {
     CommitOrRevert();
   }
   const LRESULT marks = Send(CB_GETEDITSEL);
-  Native::Place();
+  NativeControl::Place();
   const int height = Pixels(row_.bounds.height, window_.Dpi());
   WidenForArrow(height);
   // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since

@@ -22,15 +22,15 @@ std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::Contro
 }
 
 Frame::Frame(NativeWindow& window, const Toolkit::ControlTemplate& row)
-    : Native(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
+    : NativeControl(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
 
 // The class draws with the region of the window around it, not its own, unless the style clips
 // children.
 Label::Label(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::Label(row.text),
-      Native(window, row,
-             {L"STATIC", (row.properties.centered ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
-                             SS_NOPREFIX | WS_GROUP | WS_CLIPCHILDREN}) {}
+      NativeControl(window, row,
+                    {L"STATIC", (row.properties.centered ? DWORD{SS_CENTER} : DWORD{SS_LEFT}) |
+                                    SS_NOPREFIX | WS_GROUP | WS_CLIPCHILDREN}) {}
 
 void Label::ApplyCaption() {
   SuspendRedraw();
@@ -39,7 +39,7 @@ void Label::ApplyCaption() {
 
 CommandButton::CommandButton(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::CommandButton(row.text),
-      Native(window, row, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP}) {}
+      NativeControl(window, row, {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP | WS_GROUP}) {}
 
 // BM_CLICK also reaches a disabled button, and one behind a message box.
 void CommandButton::OnCommand(WORD code) {

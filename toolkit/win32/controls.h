@@ -5,12 +5,12 @@
 
 namespace Win32 {
 
-class Frame : public Toolkit::Frame, public Native {
+class Frame : public Toolkit::Frame, public NativeControl {
  public:
   Frame(NativeWindow& window, const Toolkit::ControlTemplate& row);
 };
 
-class Label : public Toolkit::Label, public Native {
+class Label : public Toolkit::Label, public NativeControl {
  public:
   Label(NativeWindow& window, const Toolkit::ControlTemplate& row);
 
@@ -18,7 +18,7 @@ class Label : public Toolkit::Label, public Native {
   void ApplyCaption() override;
 };
 
-class TextBox : public Toolkit::TextBox, public Native {
+class TextBox : public Toolkit::TextBox, public NativeControl {
  public:
   TextBox(NativeWindow& window, const Toolkit::ControlTemplate& row);
   std::u16string Text() const override { return TextOf(hwnd_); }
@@ -38,7 +38,7 @@ class TextBox : public Toolkit::TextBox, public Native {
   void SelectText(Selection selection) override;
 };
 
-class ComboBox : public Toolkit::ComboBox, public Native {
+class ComboBox : public Toolkit::ComboBox, public NativeControl {
  public:
   ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row);
   int ListIndex() const override;
@@ -61,7 +61,7 @@ class ComboBox : public Toolkit::ComboBox, public Native {
   std::u16string typed_text_;  // what the line reads while nothing is chosen
 };
 
-class OptionButton : public Toolkit::OptionButton, public Native {
+class OptionButton : public Toolkit::OptionButton, public NativeControl {
  public:
   OptionButton(NativeWindow& window, const Toolkit::ControlTemplate& row);
 
@@ -75,7 +75,7 @@ class OptionButton : public Toolkit::OptionButton, public Native {
   bool is_plain_ = false;  // without the theme
 };
 
-class CommandButton : public Toolkit::CommandButton, public Native {
+class CommandButton : public Toolkit::CommandButton, public NativeControl {
  public:
   CommandButton(NativeWindow& window, const Toolkit::ControlTemplate& row);
   bool Visible() const override { return IsWindowVisible(hwnd_) != FALSE; }

@@ -74,7 +74,7 @@ int LineHeight(HWND control) {
   return metrics.tmHeight;
 }
 
-Native::Native(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style)
+NativeControl::NativeControl(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style)
     : window_(window), row_(row) {
   if (!row.accessible_name.empty()) CreateAccessibleName(window.Hwnd(), row.accessible_name);
   hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, WideLiteral(row.text),
@@ -83,12 +83,12 @@ Native::Native(NativeWindow& window, const Toolkit::ControlTemplate& row, Style 
                                GetModuleHandleW(nullptr), nullptr));
 }
 
-bool Native::HoldsFocus() const {
+bool NativeControl::HoldsFocus() const {
   const HWND focus = GetFocus();
   return focus == hwnd_ || IsChild(hwnd_, focus);
 }
 
-RECT Native::StoredPlace() const {
+RECT NativeControl::LayoutBounds() const {
   const int dpi = window_.Dpi();
   const Toolkit::Bounds bounds = BoundsOf(row_);
   const int left = Pixels(bounds.left, dpi);
@@ -96,32 +96,32 @@ RECT Native::StoredPlace() const {
   return {left, top, left + Pixels(bounds.width, dpi), top + Pixels(bounds.height, dpi)};
 }
 
-void Native::Place() {
-  const RECT place = StoredPlace();
+void NativeControl::Place() {
+  const RECT place = LayoutBounds();
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   UseFont(false);
 }
 
-void Native::CutTo(HRGN region) {
+void NativeControl::CutTo(HRGN region) {
   // It takes its time, which would show in the start-up.
   if (!region && !is_cut_) return;
   is_cut_ = region != nullptr;
   SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
 }
 
-void Native::UseFont(bool bold) {
+void NativeControl::UseFont(bool bold) {
   Send(WM_SETFONT, reinterpret_cast<WPARAM>(FontAt(row_.font, bold, window_.Dpi())), TRUE);
 }
 
-void Native::SuspendRedraw() {
+void NativeControl::SuspendRedraw() {
   if (is_redraw_suspended_ || !IsWindowVisible(hwnd_)) return;
   is_redraw_suspended_ = true;
   Send(WM_SETREDRAW, FALSE);
   window_.Defer([this] { ResumeRedraw(); });
 }
 
-void Native::ResumeRedraw() {
+void NativeControl::ResumeRedraw() {
   is_redraw_suspended_ = false;
   Send(WM_SETREDRAW, TRUE);
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);

@@ -53,25 +53,25 @@ int LineHeight(HWND control);
 
 class NativeWindow;
 
-class Native {
+class NativeControl {
  public:
   struct Style {
     const wchar_t* window_class;
     DWORD style;
     DWORD ex_style = 0;
   };
-  Native(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style);
-  virtual ~Native() = default;
-  Native(const Native&) = delete;
-  Native& operator=(const Native&) = delete;
+  NativeControl(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style);
+  virtual ~NativeControl() = default;
+  NativeControl(const NativeControl&) = delete;
+  NativeControl& operator=(const NativeControl&) = delete;
 
   HWND Hwnd() const { return hwnd_; }
   Toolkit::Kind Kind() const { return row_.kind; }
   bool HoldsFocus() const;  // also when a part of it has the focus, such as the line of a list
 
-  RECT StoredPlace() const;  // where its row has the control, in pixels of the client area
-  virtual void Place();      // puts it there, and gives it its font
-  void CutTo(HRGN region);   // draws nothing outside it; null takes the cut back
+  RECT LayoutBounds() const;  // where its row has the control, in pixels of the client area
+  virtual void Place();       // puts it there, and gives it its font
+  void CutTo(HRGN region);    // draws nothing outside it; null takes the cut back
 
   virtual void OnCommand(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Draw(const DRAWITEMSTRUCT&) {}

@@ -84,7 +84,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   Fit();
 }
 
-int NativeWindow::Add(Native& control) {
+int NativeWindow::Add(NativeControl& control) {
   controls_.push_back(&control);
   return FirstControlId + static_cast<int>(controls_.size()) - 1;
 }
@@ -126,8 +126,8 @@ void NativeWindow::StartTimer(int milliseconds) {
   SetTimer(hwnd_, TimerId, static_cast<UINT>(milliseconds), nullptr);
 }
 
-Native* NativeWindow::ControlOf(HWND hwnd) const {
-  const auto found = std::ranges::find(controls_, hwnd, &Native::Hwnd);
+NativeControl* NativeWindow::ControlOf(HWND hwnd) const {
+  const auto found = std::ranges::find(controls_, hwnd, &NativeControl::Hwnd);
   return found == controls_.end() ? nullptr : *found;
 }
 
@@ -159,7 +159,7 @@ void NativeWindow::SetFocusTo(HWND control) {
 // it: the choice would change, and the focus move, while the user is elsewhere.
 bool NativeWindow::IsWheelOfAnother(const MSG& message) const {
   if (message.message != WM_MOUSEWHEEL) return false;
-  const Native* control = ControlOf(message.hwnd);
+  const NativeControl* control = ControlOf(message.hwnd);
   if (!control) control = ControlOf(GetParent(message.hwnd));  // of the line in a list
   return control && control->Kind() == Toolkit::Kind::ComboBox && !control->HoldsFocus();
 }
@@ -227,7 +227,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       return 0;
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(lparam);
-      if (Native* const control = ControlOf(item.hwndItem)) control->Draw(item);
+      if (NativeControl* const control = ControlOf(item.hwndItem)) control->Draw(item);
       return TRUE;
     }
     case DeferredMessage:
@@ -275,7 +275,7 @@ void NativeWindow::GiveFocusBack() {
 
 // Gives this button alone the frame of the default one; none gets it where this is no button.
 void NativeWindow::FrameDefaultButton(HWND button) {
-  for (const Native* const control : controls_) {
+  for (const NativeControl* const control : controls_) {
     if (control->Kind() != Toolkit::Kind::CommandButton) continue;
     const HWND hwnd = control->Hwnd();
     const bool is_framed = (SendMessageW(hwnd, WM_GETDLGCODE, 0, 0) & DLGC_DEFPUSHBUTTON) != 0;
@@ -300,13 +300,13 @@ void NativeWindow::OnCommand(WORD id, WORD code, HWND sender) {
   // IDOK is Enter while no button has the frame of the default one, as after a click with the
   // mouse: it presses the focused button. IDCANCEL, Escape, comes without a sender and does
   // nothing.
-  Native* const control = ControlOf(id == IDOK ? Focus() : sender);
+  NativeControl* const control = ControlOf(id == IDOK ? Focus() : sender);
   if (!control || (id == IDOK && control->Kind() != Toolkit::Kind::CommandButton)) return;
   control->OnCommand(code);
 }
 
 HBRUSH NativeWindow::BackgroundBrush(HDC dc, HWND hwnd) const {
-  const Native* const control = ControlOf(hwnd);
+  const NativeControl* const control = ControlOf(hwnd);
   const auto* coloured = dynamic_cast<const Toolkit::Coloured*>(control);
   // A themed button lets the ground behind it show at its edge.
   if (control && control->Kind() == Toolkit::Kind::CommandButton) coloured = this;

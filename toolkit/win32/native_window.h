@@ -24,7 +24,7 @@ class NativeWindow : public Toolkit::Window {
   // not fit.
   int Dpi() const { return dpi_; }
   int MonitorDpi() const { return monitor_dpi_; }
-  int Add(Native& control);  // returns the ID of the control, by its row
+  int Add(NativeControl& control);  // returns the ID of the control, by its row
 
   // False while a message box is open: the command that shows it is not done yet.
   bool IsEnabled() const { return IsWindowEnabled(hwnd_) != FALSE; }
@@ -43,7 +43,7 @@ class NativeWindow : public Toolkit::Window {
   void ApplyCaption() override;
 
   // The control with this handle; null for any other handle, which another program may send.
-  Native* ControlOf(HWND hwnd) const;
+  NativeControl* ControlOf(HWND hwnd) const;
   void RunDeferred();
 
   bool IsActive() const { return GetActiveWindow() == hwnd_; }
@@ -72,7 +72,7 @@ class NativeWindow : public Toolkit::Window {
   HMONITOR fitted_monitor_ = nullptr;  // where the window was last fitted, and
   RECT fitted_area_ = {};              // the work area there; both empty when it must be fitted
   bool is_dragged_ = false;
-  std::vector<Native*> controls_;
+  std::vector<NativeControl*> controls_;
   std::vector<Toolkit::Event> deferred_;
   HWND remembered_focus_ = nullptr;
 };

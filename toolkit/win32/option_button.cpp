@@ -5,12 +5,12 @@ namespace Win32 {
 // The arrow keys move within a group, which begins at its first button. Clipped as a label is.
 OptionButton::OptionButton(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::OptionButton(window),
-      Native(window, row,
-             {L"BUTTON", BS_AUTORADIOBUTTON | WS_CLIPCHILDREN |
-                             (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
+      NativeControl(window, row,
+                    {L"BUTTON", BS_AUTORADIOBUTTON | WS_CLIPCHILDREN |
+                                    (row.index == 0 ? WS_GROUP | WS_TABSTOP : 0UL)}) {}
 
 void OptionButton::Place() {
-  Native::Place();
+  NativeControl::Place();
   UseFont(FontBold());
   FollowTheme();
 }

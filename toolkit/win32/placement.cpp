@@ -100,7 +100,7 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
 }
 
 void NativeWindow::PlaceControls() {
-  for (Native* const control : controls_) control->Place();
+  for (NativeControl* const control : controls_) control->Place();
   KeepOffFields();
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
@@ -108,15 +108,15 @@ void NativeWindow::PlaceControls() {
 // Some labels and options reach a few pixels into a field beside them, and would paint their ground
 // over its border: they are cut back to where they do not.
 void NativeWindow::KeepOffFields() {
-  for (Native* const ground : controls_) {
+  for (NativeControl* const ground : controls_) {
     if (ground->Kind() != Toolkit::Kind::Label && ground->Kind() != Toolkit::Kind::OptionButton)
       continue;
-    const RECT rect = ground->StoredPlace();
+    const RECT rect = ground->LayoutBounds();
     HRGN region = nullptr;
-    for (const Native* const field : controls_) {
+    for (const NativeControl* const field : controls_) {
       if (field->Kind() != Toolkit::Kind::TextBox && field->Kind() != Toolkit::Kind::ComboBox)
         continue;
-      const RECT cut = field->StoredPlace();
+      const RECT cut = field->LayoutBounds();
       RECT common;
       if (!IntersectRect(&common, &rect, &cut)) continue;
       if (!region) region = CreateRectRgnIndirect(&rect);

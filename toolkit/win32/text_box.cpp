@@ -11,7 +11,7 @@ namespace {
 constexpr WPARAM NoLimit = 0x7FFFFFFE;  // the most that the native control takes
 constexpr WPARAM CtrlA = 1;             // the character that Ctrl+A types
 
-Native::Style StyleOf(const Toolkit::ControlTemplate& row) {
+NativeControl::Style StyleOf(const Toolkit::ControlTemplate& row) {
   const DWORD lines = row.properties.multiline
                           ? ES_MULTILINE | ES_AUTOVSCROLL | ES_WANTRETURN | WS_VSCROLL
                           : ES_AUTOHSCROLL;
@@ -31,7 +31,7 @@ std::int16_t ShiftState() {
 }  // namespace
 
 TextBox::TextBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
-    : Native(window, row, StyleOf(row)) {
+    : NativeControl(window, row, StyleOf(row)) {
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
   if (!row.properties.multiline) CenterText(hwnd_);
@@ -39,7 +39,7 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
 }
 
 void TextBox::Place() {
-  Native::Place();
+  NativeControl::Place();
   FitText(hwnd_);
 }
 
