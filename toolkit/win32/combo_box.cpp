@@ -78,13 +78,13 @@ void ComboBox::WidenForArrow(int height) {
   const int arrow = parts.rcButton.right - parts.rcButton.left;
   const int too_much = arrow - MulDiv(arrow, window_.Dpi(), window_.MonitorDpi());
   if (too_much <= 0) {
-    CutTo(nullptr);
+    SetRegion(nullptr);
     return;
   }
   const int width = Pixels(row_.bounds.width, window_.Dpi());
   SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-  CutTo(CreateRectRgn(0, 0, width, height));
+  SetRegion(CreateRectRgn(0, 0, width, height));
 }
 
 void ComboBox::Draw(const DRAWITEMSTRUCT& item) {

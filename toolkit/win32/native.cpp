@@ -20,13 +20,14 @@ const char16_t* FaceAt(std::u16string_view face, int dpi) {
 // else sees this one: it is not visible, and it has no number of its own.
 void CreateAccessibleName(HWND window, std::u16string_view name) {
   constexpr INT_PTR NoNumber = 0xFFFF;
-  Made(CreateWindowExW(0, L"STATIC", WideLiteral(name), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0, window,
-                       reinterpret_cast<HMENU>(NoNumber), GetModuleHandleW(nullptr), nullptr));
+  RequireWindow(CreateWindowExW(0, L"STATIC", WideLiteral(name), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0,
+                                window, reinterpret_cast<HMENU>(NoNumber),
+                                GetModuleHandleW(nullptr), nullptr));
 }
 
 }  // namespace
 
-HWND Made(HWND window) {
+HWND RequireWindow(HWND window) {
   if (window) return window;
   MessageBoxW(nullptr, L"Tandem cannot make its window.", L"Tandem", MB_OK | MB_ICONERROR);
   ExitProcess(1);
@@ -77,10 +78,10 @@ int LineHeight(HWND control) {
 NativeControl::NativeControl(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style)
     : window_(window), row_(row) {
   if (!row.accessible_name.empty()) CreateAccessibleName(window.Hwnd(), row.accessible_name);
-  hwnd_ = Made(CreateWindowExW(style.ex_style, style.window_class, WideLiteral(row.text),
-                               WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
-                               reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}),
-                               GetModuleHandleW(nullptr), nullptr));
+  hwnd_ = RequireWindow(CreateWindowExW(
+      style.ex_style, style.window_class, WideLiteral(row.text),
+      WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
+      reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}), GetModuleHandleW(nullptr), nullptr));
 }
 
 bool NativeControl::HoldsFocus() const {
@@ -103,10 +104,10 @@ void NativeControl::Place() {
   UseFont(false);
 }
 
-void NativeControl::CutTo(HRGN region) {
+void NativeControl::SetRegion(HRGN region) {
   // It takes its time, which would show in the start-up.
-  if (!region && !is_cut_) return;
-  is_cut_ = region != nullptr;
+  if (!region && !has_region_) return;
+  has_region_ = region != nullptr;
   SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
 }
 

@@ -37,7 +37,7 @@ Function SystemFunction(const wchar_t* library, const char* name) {
 
 // Gives back the window that was to be made. If it could not be made there is no program: it says
 // so and ends with exit code 1.
-HWND Made(HWND window);
+HWND RequireWindow(HWND window);
 
 // The dots per inch that the window is drawn with.
 int DpiOf(HWND window);
@@ -69,9 +69,9 @@ class NativeControl {
   Toolkit::Kind Kind() const { return row_.kind; }
   bool HoldsFocus() const;  // also when a part of it has the focus, such as the line of a list
 
-  RECT LayoutBounds() const;  // where its row has the control, in pixels of the client area
-  virtual void Place();       // puts it there, and gives it its font
-  void CutTo(HRGN region);    // draws nothing outside it; null takes the cut back
+  RECT LayoutBounds() const;    // where its row has the control, in pixels of the client area
+  virtual void Place();         // puts it there, and gives it its font
+  void SetRegion(HRGN region);  // draws nothing outside it; null takes the cut back
 
   virtual void OnCommand(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Draw(const DRAWITEMSTRUCT&) {}
@@ -93,7 +93,7 @@ class NativeControl {
   void ResumeRedraw();
 
   bool is_redraw_suspended_ = false;
-  bool is_cut_ = false;
+  bool has_region_ = false;
 };
 
 }  // namespace Win32

@@ -68,8 +68,8 @@ NativeWindow::NativeWindow(int client_width, int client_height)
     WORD caption;
   } dialog = {{WindowStyle, 0, 0, 0, 0, 0, 0}, 0, {}, 0};
   std::copy(std::begin(WindowClass), std::end(WindowClass), dialog.class_name);
-  hwnd_ =
-      Made(CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0));
+  hwnd_ = RequireWindow(
+      CreateDialogIndirectParamW(window_class.hInstance, &dialog.header, nullptr, nullptr, 0));
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The dialog manager would scale the controls by itself, from rounded pixels.
   using Change = BOOL(WINAPI*)(HWND, UINT, UINT);
@@ -91,7 +91,7 @@ int NativeWindow::Add(NativeControl& control) {
 
 int NativeWindow::Run() {
   PlaceControls();
-  Centre();
+  Center();
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
@@ -213,14 +213,14 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       Fit();
       break;
     case WM_DPICHANGED:
-      MoveToDpi(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
+      HandleDpiChange(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
       return 0;
     case WM_SETTINGCHANGE:  // the work area among others
       Fit();
       if (wparam != SPI_SETNONCLIENTMETRICS && wparam != SPI_SETHIGHCONTRAST) break;
       [[fallthrough]];
     case WM_THEMECHANGED:
-      FitAnew();
+      Refit();
       break;
     case WM_COMMAND:
       OnCommand(LOWORD(wparam), HIWORD(wparam), reinterpret_cast<HWND>(lparam));

@@ -57,13 +57,13 @@ class NativeWindow : public Toolkit::Window {
   HBRUSH BackgroundBrush(HDC dc, HWND hwnd) const;
 
   // Where the window is and its controls are in it: placement.cpp.
-  void Centre();
+  void Center();
   SIZE FrameSize() const;
   void Fit();
-  void FitAnew();
-  void MoveToDpi(int dpi, const RECT& place);
+  void Refit();
+  void HandleDpiChange(int dpi, const RECT& place);
   void PlaceControls();
-  void KeepOffFields();
+  void ClipAroundFields();
 
   int client_width_, client_height_;  // twips
   HWND hwnd_ = nullptr;

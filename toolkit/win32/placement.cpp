@@ -7,7 +7,7 @@ namespace Win32 {
 
 namespace {
 
-constexpr int LowestDpi = 60;  // what is drawn smaller cannot be read
+constexpr int MinDpi = 60;  // what is drawn smaller cannot be read
 
 HMONITOR MonitorOf(HWND window) {
   return MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST);
@@ -22,22 +22,22 @@ RECT WorkArea(HMONITOR monitor) {
 
 // The place next to `wanted` where something of that length lies between the two ends. If it is too
 // long it begins at the first of them, where the title bar is.
-int Between(LONG first, LONG last, int length, LONG wanted) {
+int ClampPosition(LONG first, LONG last, int length, LONG wanted) {
   return std::max(first, std::min(wanted, last - length));
 }
 
 }  // namespace
 
-void NativeWindow::Centre() {
+void NativeWindow::Center() {
   const RECT area = WorkArea(MonitorOf(hwnd_));
   RECT outer;
   GetWindowRect(hwnd_, &outer);
   const int width = outer.right - outer.left;
   const int height = outer.bottom - outer.top;
   SetWindowPos(hwnd_, nullptr,
-               Between(area.left, area.right, width, (area.left + area.right - width) / 2),
-               Between(area.top, area.bottom, height, (area.top + area.bottom - height) / 2), 0, 0,
-               SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+               ClampPosition(area.left, area.right, width, (area.left + area.right - width) / 2),
+               ClampPosition(area.top, area.bottom, height, (area.top + area.bottom - height) / 2),
+               0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // What the frame adds to the client area: the difference is the same for a window of any size.
@@ -66,28 +66,28 @@ void NativeWindow::Fit() {
     return width(dpi) <= area.right - area.left && height(dpi) <= area.bottom - area.top;
   };
   int dpi = monitor_dpi_;
-  while (dpi > LowestDpi && !fits(dpi)) --dpi;
+  while (dpi > MinDpi && !fits(dpi)) --dpi;
   // The user may leave it across the edge of two monitors.
   if (has_moved && dpi == dpi_ && fits(dpi)) return;
   dpi_ = dpi;
   RECT outer;
   GetWindowRect(hwnd_, &outer);
-  SetWindowPos(hwnd_, nullptr, Between(area.left, area.right, width(dpi), outer.left),
-               Between(area.top, area.bottom, height(dpi), outer.top), width(dpi), height(dpi),
-               SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
+  SetWindowPos(hwnd_, nullptr, ClampPosition(area.left, area.right, width(dpi), outer.left),
+               ClampPosition(area.top, area.bottom, height(dpi), outer.top), width(dpi),
+               height(dpi), SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
   PlaceControls();
 }
 
 // After a change of the theme or the DPI: at once, and again when the native controls, which may
 // then measure themselves again, have heard of it.
-void NativeWindow::FitAnew() {
+void NativeWindow::Refit() {
   fitted_monitor_ = nullptr;
   fitted_area_ = {};
   Fit();
   Defer([this] { PlaceControls(); });
 }
 
-void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
+void NativeWindow::HandleDpiChange(int dpi, const RECT& place) {
   // A dragged window is fitted when it is let go. Until then it grows or shrinks with the place.
   dpi_ = MulDiv(dpi_, dpi, monitor_dpi_);
   monitor_dpi_ = dpi;
@@ -96,18 +96,18 @@ void NativeWindow::MoveToDpi(int dpi, const RECT& place) {
   SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
   if (is_dragged_) PlaceControls();
-  FitAnew();
+  Refit();
 }
 
 void NativeWindow::PlaceControls() {
   for (NativeControl* const control : controls_) control->Place();
-  KeepOffFields();
+  ClipAroundFields();
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
 // Some labels and options reach a few pixels into a field beside them, and would paint their ground
 // over its border: they are cut back to where they do not.
-void NativeWindow::KeepOffFields() {
+void NativeWindow::ClipAroundFields() {
   for (NativeControl* const ground : controls_) {
     if (ground->Kind() != Toolkit::Kind::Label && ground->Kind() != Toolkit::Kind::OptionButton)
       continue;
@@ -125,7 +125,7 @@ void NativeWindow::KeepOffFields() {
       DeleteObject(taken);
     }
     if (region) OffsetRgn(region, -rect.left, -rect.top);
-    ground->CutTo(region);
+    ground->SetRegion(region);
   }
 }
 
