@@ -65,7 +65,7 @@ void ComboBox::Place() {
   // A list that is resized or gets another font completes the text in its line to an item and marks
   // it.
   if (!open_) ShowWhatCounts();
-  if (HoldsFocus()) Send(CB_SETEDITSEL, 0, marks);
+  if (ContainsFocus()) Send(CB_SETEDITSEL, 0, marks);
 }
 
 // The arrow is as wide as the scroll bars of the monitor. Where the window is drawn smaller than
@@ -168,7 +168,7 @@ void ComboBox::ShowWhatCounts() {
   if (index < 0 && TextOf(hwnd_) != text) SetWindowTextW(hwnd_, Wide(text));
   // Last: should the platform report the line's new text as typed, the choice would be lost.
   chosen_ = index;
-  if (!HoldsFocus()) TakeMarks();
+  if (!ContainsFocus()) TakeMarks();
 }
 
 // A line shows its marks also while it does not have the focus.

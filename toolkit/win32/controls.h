@@ -28,11 +28,11 @@ class TextBox : public Toolkit::TextBox, public NativeControl {
 
  private:
   void Place() override;
-  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                    DWORD_PTR text_box);
+  static LRESULT CALLBACK WndProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                  DWORD_PTR text_box);
   bool OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result);
   bool IsTypedTab(WPARAM key) const;
-  LRESULT WantedKeys(const MSG* key) const;
+  LRESULT DialogCode(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
   Selection SelectedStretch() const override;
   void SelectText(Selection selection) override;

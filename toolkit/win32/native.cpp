@@ -84,7 +84,7 @@ NativeControl::NativeControl(NativeWindow& window, const Toolkit::ControlTemplat
       reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}), GetModuleHandleW(nullptr), nullptr));
 }
 
-bool NativeControl::HoldsFocus() const {
+bool NativeControl::ContainsFocus() const {
   const HWND focus = GetFocus();
   return focus == hwnd_ || IsChild(hwnd_, focus);
 }

@@ -67,7 +67,7 @@ class NativeControl {
 
   HWND Hwnd() const { return hwnd_; }
   Toolkit::Kind Kind() const { return row_.kind; }
-  bool HoldsFocus() const;  // also when a part of it has the focus, such as the line of a list
+  bool ContainsFocus() const;  // also when a part of it has the focus, such as the line of a list
 
   RECT LayoutBounds() const;    // where its row has the control, in pixels of the client area
   virtual void Place();         // puts it there, and gives it its font

@@ -33,7 +33,7 @@ bool IsPushButton(HWND window) {
 
 // Sees what goes to the window and to a message box before the dialog manager does. Enter that is
 // held on repeats itself; it must not press the button, OK included, to which it has led.
-LRESULT CALLBACK LeaveOutHeldEnter(int code, WPARAM wparam, LPARAM lparam) {
+LRESULT CALLBACK FilterEnterRepeats(int code, WPARAM wparam, LPARAM lparam) {
   const auto& message = *reinterpret_cast<const MSG*>(lparam);
   if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && message.wParam == VK_RETURN &&
       (HIWORD(message.lParam) & KF_REPEAT) && IsPushButton(message.hwnd)) {
@@ -51,7 +51,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   InitCommonControlsEx(&Classes);
   WNDCLASSEXW window_class = {};
   window_class.cbSize = sizeof window_class;
-  window_class.lpfnWndProc = Procedure;
+  window_class.lpfnWndProc = WndProc;
   window_class.cbWndExtra = DLGWINDOWEXTRA;
   window_class.hInstance = GetModuleHandleW(nullptr);
   window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
@@ -78,7 +78,7 @@ NativeWindow::NativeWindow(int client_width, int client_height)
           SystemFunction<Change>(L"user32.dll", "SetDialogDpiChangeBehavior")) {
     set_behavior(hwnd_, DisableAll, DisableAll);
   }
-  SetWindowsHookExW(WH_MSGFILTER, LeaveOutHeldEnter, nullptr, GetCurrentThreadId());
+  SetWindowsHookExW(WH_MSGFILTER, FilterEnterRepeats, nullptr, GetCurrentThreadId());
   monitor_dpi_ = DpiOf(hwnd_);
   ShowIcons();
   Fit();
@@ -95,12 +95,12 @@ int NativeWindow::Run() {
   ShowWindow(hwnd_, SW_SHOWDEFAULT);
   MSG message;
   while (GetMessageW(&message, nullptr, 0, 0) > 0) {
-    if (IsWheelOfAnother(message)) continue;
+    if (IsWheelForUnfocusedCombo(message)) continue;
     if (!IsDialogMessageW(hwnd_, &message)) {
       TranslateMessage(&message);
       DispatchMessageW(&message);
     }
-    RememberFocus();
+    SaveFocus();
   }
   return static_cast<int>(message.wParam);
 }
@@ -142,12 +142,12 @@ void NativeWindow::RunDeferred() {
 
 HWND NativeWindow::Focus() const {
   const HWND focus = GetFocus();
-  return IsActive() && focus ? focus : remembered_focus_;
+  return IsActive() && focus ? focus : last_focus_;
 }
 
 void NativeWindow::SetFocusTo(HWND control) {
   if (Focus() == control) return;
-  remembered_focus_ = control;
+  last_focus_ = control;
   // The dialog manager's own way of setting the focus, so that the right button has the frame of
   // the default one.
   if (IsActive()) {
@@ -157,19 +157,19 @@ void NativeWindow::SetFocusTo(HWND control) {
 
 // The wheel goes to the window under the pointer. A list that does not have the focus must not take
 // it: the choice would change, and the focus move, while the user is elsewhere.
-bool NativeWindow::IsWheelOfAnother(const MSG& message) const {
+bool NativeWindow::IsWheelForUnfocusedCombo(const MSG& message) const {
   if (message.message != WM_MOUSEWHEEL) return false;
   const NativeControl* control = ControlOf(message.hwnd);
   if (!control) control = ControlOf(GetParent(message.hwnd));  // of the line in a list
-  return control && control->Kind() == Toolkit::Kind::ComboBox && !control->HoldsFocus();
+  return control && control->Kind() == Toolkit::Kind::ComboBox && !control->ContainsFocus();
 }
 
-void NativeWindow::RememberFocus() {
+void NativeWindow::SaveFocus() {
   const HWND focus = GetFocus();
-  if (focus && IsChild(hwnd_, focus)) remembered_focus_ = focus;
+  if (focus && IsChild(hwnd_, focus)) last_focus_ = focus;
 }
 
-LRESULT CALLBACK NativeWindow::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
+LRESULT CALLBACK NativeWindow::WndProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam) {
   auto* const self = reinterpret_cast<NativeWindow*>(GetWindowLongPtrW(hwnd, GWLP_USERDATA));
   if (!self) return DefDlgProcW(hwnd, message, wparam, lparam);
   return self->OnMessage(message, wparam, lparam);
@@ -183,19 +183,19 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (LOWORD(wparam) != WA_INACTIVE) {
         Activated();
       } else {
-        RememberFocus();
+        SaveFocus();
         FrameDefaultButton(nullptr);
       }
       return 0;
     case WM_SETFOCUS:
-      if (remembered_focus_) GiveFocusBack();
+      if (last_focus_) RestoreFocus();
       return 0;
     case WM_SIZE:
       // There is no button for it, but a shortcut or another program can ask for it.
       if (wparam == SIZE_MAXIMIZED) ShowWindow(hwnd_, SW_RESTORE);
       if (wparam == SIZE_RESTORED) Fit();
       // A minimised window could not give the focus to a control.
-      if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) GiveFocusBack();
+      if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) RestoreFocus();
       break;
     case WM_GETMINMAXINFO:
       // The system would cut the window to the size of the screen.
@@ -263,14 +263,14 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
 }
 
 void NativeWindow::Activated() {
-  if (!remembered_focus_) remembered_focus_ = GetNextDlgTabItem(hwnd_, nullptr, FALSE);
-  GiveFocusBack();
+  if (!last_focus_) last_focus_ = GetNextDlgTabItem(hwnd_, nullptr, FALSE);
+  RestoreFocus();
   NoteActivated();
 }
 
-void NativeWindow::GiveFocusBack() {
-  ::SetFocus(remembered_focus_);
-  FrameDefaultButton(remembered_focus_);
+void NativeWindow::RestoreFocus() {
+  ::SetFocus(last_focus_);
+  FrameDefaultButton(last_focus_);
 }
 
 // Gives this button alone the frame of the default one; none gets it where this is no button.

@@ -38,7 +38,7 @@ class NativeWindow : public Toolkit::Window {
   void SetFocusTo(HWND control);
 
  private:
-  static LRESULT CALLBACK Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
+  static LRESULT CALLBACK WndProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam);
   LRESULT OnMessage(UINT message, WPARAM wparam, LPARAM lparam);
   void ApplyCaption() override;
 
@@ -47,10 +47,10 @@ class NativeWindow : public Toolkit::Window {
   void RunDeferred();
 
   bool IsActive() const { return GetActiveWindow() == hwnd_; }
-  bool IsWheelOfAnother(const MSG& message) const;
-  void RememberFocus();
+  bool IsWheelForUnfocusedCombo(const MSG& message) const;
+  void SaveFocus();
   void Activated();
-  void GiveFocusBack();
+  void RestoreFocus();
   void FrameDefaultButton(HWND button);
   void OnCommand(WORD id, WORD code, HWND sender);
   void ShowIcons();
@@ -74,7 +74,7 @@ class NativeWindow : public Toolkit::Window {
   bool is_dragged_ = false;
   std::vector<NativeControl*> controls_;
   std::vector<Toolkit::Event> deferred_;
-  HWND remembered_focus_ = nullptr;
+  HWND last_focus_ = nullptr;
 };
 
 // Posted by the window to itself: runs what was deferred.

@@ -35,7 +35,7 @@ TextBox::TextBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
   const int most = row.properties.max_length;
   Send(EM_SETLIMITTEXT, most > 0 ? static_cast<WPARAM>(most) : NoLimit);
   if (!row.properties.multiline) CenterText(hwnd_);
-  SetWindowSubclass(hwnd_, Procedure, 0, reinterpret_cast<DWORD_PTR>(this));
+  SetWindowSubclass(hwnd_, WndProc, 0, reinterpret_cast<DWORD_PTR>(this));
 }
 
 void TextBox::Place() {
@@ -43,8 +43,8 @@ void TextBox::Place() {
   FitText(hwnd_);
 }
 
-LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
-                                    DWORD_PTR text_box) {
+LRESULT CALLBACK TextBox::WndProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
+                                  DWORD_PTR text_box) {
   LRESULT result = 0;
   const bool is_done =
       reinterpret_cast<TextBox*>(text_box)->OnMessage(message, wparam, lparam, result);
@@ -55,7 +55,7 @@ LRESULT CALLBACK TextBox::Procedure(HWND hwnd, UINT message, WPARAM wparam, LPAR
 bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
   switch (message) {
     case WM_GETDLGCODE:
-      result = WantedKeys(reinterpret_cast<const MSG*>(lparam));
+      result = DialogCode(reinterpret_cast<const MSG*>(lparam));
       return true;
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:  // with Alt
@@ -92,7 +92,7 @@ bool TextBox::IsTypedTab(WPARAM key) const {
 
 // What the dialog manager leaves to the box. The native answer is not asked for: a pane that knows
 // that it stands in a dialog closes that at Escape.
-LRESULT TextBox::WantedKeys(const MSG* key) const {
+LRESULT TextBox::DialogCode(const MSG* key) const {
   const bool key_down = key && key->message == WM_KEYDOWN;
   if (row_.properties.multiline) {
     // Tab leaves the pane, Ctrl+Tab types a tab. Without DLGC_HASSETSEL: coming in by Tab must not
