@@ -33,8 +33,8 @@ struct TextBox : Toolkit::TextBox {
     text = all;
     selection = {0, 0};
   }
-  Selection SelectedStretch() const override { return selection; }
-  void SelectText(Selection stretch) override { selection = stretch; }
+  Selection GetSelection() const override { return selection; }
+  void SetSelection(Selection stretch) override { selection = stretch; }
 };
 
 struct Label : Toolkit::Label {

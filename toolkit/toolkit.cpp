@@ -41,9 +41,9 @@ std::u16string TextBox::TrimText() {
 
   const auto length = static_cast<std::int32_t>(rest.size());
   const auto moved = [&](std::int32_t place) { return std::clamp(place - cut, 0, length); };
-  const Selection selection = SelectedStretch();
+  const Selection selection = GetSelection();
   ApplyText(rest);
-  SelectText({moved(selection.start), moved(selection.end)});
+  SetSelection({moved(selection.start), moved(selection.end)});
   return rest;
 }
 

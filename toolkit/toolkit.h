@@ -166,8 +166,8 @@ class TextBox : public Control {
 
  protected:
   virtual void ApplyText(std::u16string_view text) = 0;
-  virtual Selection SelectedStretch() const = 0;
-  virtual void SelectText(Selection selection) = 0;
+  virtual Selection GetSelection() const = 0;
+  virtual void SetSelection(Selection selection) = 0;
 
   // To be called by the platform. A repeat is a key-down of a key that is down already.
   void NoteKeyDown(std::int16_t key_code, bool is_repeat);

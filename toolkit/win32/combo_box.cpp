@@ -64,7 +64,7 @@ void ComboBox::Place() {
   FitText(GetWindow(hwnd_, GW_CHILD));
   // A list that is resized or gets another font completes the text in its line to an item and marks
   // it.
-  if (!open_) ShowWhatCounts();
+  if (!open_) ShowChosen();
   if (ContainsFocus()) Send(CB_SETEDITSEL, 0, marks);
 }
 
@@ -137,7 +137,7 @@ void ComboBox::OnCommand(WORD code) {
       typed_text_ = TextOf(hwnd_);
       break;
     case CBN_KILLFOCUS:
-      TakeMarks();
+      ClearSelection();
       break;
     default:
       break;
@@ -153,13 +153,13 @@ void ComboBox::CommitOrRevert() {
   const bool is_choice = accepted_ && now >= 0 && now != chosen_;
   accepted_ = true;
   if (is_choice) chosen_ = now;
-  ShowWhatCounts();
+  ShowChosen();
   if (is_choice) Toolkit::Raise(Click);
 }
 
 // A native list that is left without a choice may keep the item that was browsed last, or take back
 // its index and not its text; and it completes what was typed to an item. All of that goes.
-void ComboBox::ShowWhatCounts() {
+void ComboBox::ShowChosen() {
   const int index = chosen_;
   const std::u16string text(index < 0 ? typed_text_ : Item(index));
   if (Send(CB_GETCURSEL) != index || (index >= 0 && TextOf(hwnd_) != text)) {
@@ -168,11 +168,11 @@ void ComboBox::ShowWhatCounts() {
   if (index < 0 && TextOf(hwnd_) != text) SetWindowTextW(hwnd_, Wide(text));
   // Last: should the platform report the line's new text as typed, the choice would be lost.
   chosen_ = index;
-  if (!ContainsFocus()) TakeMarks();
+  if (!ContainsFocus()) ClearSelection();
 }
 
 // A line shows its marks also while it does not have the focus.
-void ComboBox::TakeMarks() {
+void ComboBox::ClearSelection() {
   if (!row_.properties.editable) return;
   const WORD end = HIWORD(Send(CB_GETEDITSEL));
   Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));
@@ -192,7 +192,7 @@ void ComboBox::ApplyListIndex(int index) {
   SuspendRedraw();
   chosen_ = index;
   typed_text_.clear();
-  ShowWhatCounts();
+  ShowChosen();
 }
 
 }  // namespace Win32

@@ -34,8 +34,8 @@ class TextBox : public Toolkit::TextBox, public NativeControl {
   bool IsTypedTab(WPARAM key) const;
   LRESULT DialogCode(const MSG* key) const;
   void ApplyText(std::u16string_view text) override;
-  Selection SelectedStretch() const override;
-  void SelectText(Selection selection) override;
+  Selection GetSelection() const override;
+  void SetSelection(Selection selection) override;
 };
 
 class ComboBox : public Toolkit::ComboBox, public NativeControl {
@@ -52,8 +52,8 @@ class ComboBox : public Toolkit::ComboBox, public NativeControl {
   void ApplyNewItem(const std::u16string& item) override;
   void ApplyClear() override;
   void ApplyListIndex(int index) override;
-  void ShowWhatCounts();
-  void TakeMarks();
+  void ShowChosen();
+  void ClearSelection();
 
   int chosen_ = -1;            // the last choice, whether the user's or the program's
   bool open_ = false;          // the list is dropped down, or what that came to has not settled

@@ -74,7 +74,7 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       return false;
     case WM_CHAR:
       if (IsTypedTab(wparam)) return true;
-      if (wparam == CtrlA) SelectText({0, -1});
+      if (wparam == CtrlA) SetSelection({0, -1});
       // A box of one line would beep at Enter, with Ctrl or without.
       return wparam == CtrlA ||
              ((wparam == u'\r' || wparam == u'\n') && !row_.properties.multiline);
@@ -108,12 +108,12 @@ LRESULT TextBox::DialogCode(const MSG* key) const {
 
 void TextBox::AppendText(std::u16string_view text) {
   const std::int32_t end = TextLength();
-  SelectText({end, end});
+  SetSelection({end, end});
   Send(EM_REPLACESEL, FALSE, reinterpret_cast<LPARAM>(std::u16string(text).c_str()));
 }
 
 void TextBox::SetSelStart(std::int32_t position) {
-  SelectText({position, position});
+  SetSelection({position, position});
   Send(EM_SCROLLCARET);
 }
 
@@ -122,14 +122,14 @@ void TextBox::ApplyText(std::u16string_view text) {
   SetWindowTextW(hwnd_, Wide(std::u16string(text)));
 }
 
-TextBox::Selection TextBox::SelectedStretch() const {
+TextBox::Selection TextBox::GetSelection() const {
   DWORD start = 0;
   DWORD end = 0;
   Send(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
   return {static_cast<std::int32_t>(start), static_cast<std::int32_t>(end)};
 }
 
-void TextBox::SelectText(Selection selection) {
+void TextBox::SetSelection(Selection selection) {
   Send(EM_SETSEL, static_cast<WPARAM>(selection.start), selection.end);
 }
 
