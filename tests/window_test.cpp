@@ -164,8 +164,8 @@ TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
             u"Back one day|Forward one day");
   EXPECT_EQ(window.BackColor(), 0xE8F0);
   for (const auto& [name, control] : window.controls) {
-    const auto* const coloured = dynamic_cast<Toolkit::Coloured*>(control);
-    EXPECT_TRUE(!coloured || coloured->BackColor() == 0xE8F0) << testing::PrintToString(name);
+    const auto* const colored = dynamic_cast<Toolkit::Colored*>(control);
+    EXPECT_TRUE(!colored || colored->BackColor() == 0xE8F0) << testing::PrintToString(name);
   }
   // The years are empty, the rest is the first item or as stored.
   EXPECT_EQ(Rows(), u"January 1  Monday | January 1  Lunaday | GMet-2 A 301 LYA-1 LA-1 1 ");

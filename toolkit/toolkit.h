@@ -111,23 +111,23 @@ class Control {
 
 // Anything whose background colour can be set, before the window is shown. Text on a colour that
 // was set is black.
-class Coloured {
+class Colored {
  public:
-  virtual ~Coloured() = default;
-  static constexpr Color UsualColor = -1;  // the platform's own, before any is set
+  virtual ~Colored() = default;
+  static constexpr Color DefaultColor = -1;  // the platform's own, before any is set
   Color BackColor() const { return back_color_; }
   void SetBackColor(Color color) { back_color_ = color; }
 
  private:
-  Color back_color_ = UsualColor;
+  Color back_color_ = DefaultColor;
 };
 
-class Frame : public Control, public Coloured {
+class Frame : public Control, public Colored {
  public:
   static constexpr Kind OwnKind = Kind::Frame;
 };
 
-class Label : public Control, public Coloured {
+class Label : public Control, public Colored {
  public:
   static constexpr Kind OwnKind = Kind::Label;
   explicit Label(std::u16string_view caption) : caption_(caption) {}  // that of its row
@@ -204,7 +204,7 @@ class ComboBox : public Control {
 class Window;
 
 // At most one option button of a window is selected.
-class OptionButton : public Control, public Coloured {
+class OptionButton : public Control, public Colored {
  public:
   static constexpr Kind OwnKind = Kind::OptionButton;
   explicit OptionButton(Window& owner) : owner_(owner) {}
@@ -261,7 +261,7 @@ enum class Icon { Exclamation = 48, Information = 64 };
 
 // The program's one window, and what the form gets from it: its controls, its timer, message boxes,
 // the clipboard. It lives longer than its controls.
-class Window : public Coloured, public Timer {
+class Window : public Colored, public Timer {
  public:
   Event Activate;  // on the screen, it has become the program's active window; raised once
   Event Unload;    // the user closes the window, which stays until EndProgram

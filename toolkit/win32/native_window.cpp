@@ -250,7 +250,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       }
       break;
     case WM_ERASEBKGND: {
-      if (BackColor() == UsualColor) break;
+      if (BackColor() == DefaultColor) break;
       RECT client;
       GetClientRect(hwnd_, &client);
       FillRect(reinterpret_cast<HDC>(wparam), &client, BrushOf(BackColor()));
@@ -307,14 +307,14 @@ void NativeWindow::OnCommand(WORD id, WORD code, HWND sender) {
 
 HBRUSH NativeWindow::BackgroundBrush(HDC dc, HWND hwnd) const {
   const NativeControl* const control = ControlOf(hwnd);
-  const auto* coloured = dynamic_cast<const Toolkit::Coloured*>(control);
+  const auto* colored = dynamic_cast<const Toolkit::Colored*>(control);
   // A themed button lets the ground behind it show at its edge.
-  if (control && control->Kind() == Toolkit::Kind::CommandButton) coloured = this;
-  if (!coloured || coloured->BackColor() == UsualColor) return nullptr;
+  if (control && control->Kind() == Toolkit::Kind::CommandButton) colored = this;
+  if (!colored || colored->BackColor() == DefaultColor) return nullptr;
   // Black under every theme: the yellow does not change with it.
   SetTextColor(dc, Black);
-  SetBkColor(dc, static_cast<COLORREF>(coloured->BackColor()));
-  return BrushOf(coloured->BackColor());
+  SetBkColor(dc, static_cast<COLORREF>(colored->BackColor()));
+  return BrushOf(colored->BackColor());
 }
 
 void NativeWindow::ApplyCaption() {
