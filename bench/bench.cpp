@@ -16,7 +16,7 @@ using namespace Karvel_Sorand;
 namespace {
 
 constexpr std::int32_t UnixEpochJdn = 2440588;
-constexpr const char* Peer = "std::chrono, there and back";
+constexpr const char* Baseline = "std::chrono, there and back";
 
 // Behind the usual table: the best time of each benchmark and, if the peer has run, how many times
 // the peer's that is.
@@ -33,7 +33,7 @@ class RatioReporter : public benchmark::ConsoleReporter {
   }
 
   void Finalize() override {
-    const auto peer = best.find(Peer);
+    const auto peer = best.find(Baseline);
     for (const auto& [name, time] : best) {
       std::printf("%-32s %6.1f ns", name.c_str(), time);
       if (peer != best.end()) std::printf(" %6.1f times", time / peer->second);
@@ -67,7 +67,7 @@ int main(int argc, char** argv) {
     JdnToLksDate(jdns[i], dates[i], true);
   }
 
-  Register(Peer, jdns, [](std::int32_t jdn) {
+  Register(Baseline, jdns, [](std::int32_t jdn) {
     const std::chrono::sys_days day{std::chrono::days(jdn - UnixEpochJdn)};
     std::chrono::year_month_day date = day;
     benchmark::DoNotOptimize(date);

@@ -1,12 +1,12 @@
 // Uses the built tandem.exe as a person does, from outside, by keyboard, mouse and clipboard.
-#include "desk.h"
+#include "window_driver.h"
 
 #include <array>
 #include <cstdio>
 
 #include "native.h"
 
-using namespace Desk;
+using namespace Driver;
 using Toolkit::Kind;
 using Win32::Pixels;
 
@@ -36,7 +36,7 @@ void ExpectPlaces(const RealWindow& desk, int dpi) {
 }
 
 // Also on a desktop that is too small for it: then it is drawn as large as it can be there.
-TEST_F(RealWindow, StandsAsStored) {
+TEST_F(RealWindow, MatchesTheLayout) {
   RECT outer, client, work;
   GetWindowRect(window, &outer);
   GetClientRect(window, &client);
@@ -66,7 +66,7 @@ TEST_F(RealWindow, StandsAsStored) {
   EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
   ExpectPlaces(*this, dpi);
   constexpr COLORREF Yellow = RGB(240, 232, 0);
-  EXPECT_SEEN(Pixel(u"cmdConvert", -5), Yellow);
+  EXPECT_EVENTUALLY(Pixel(u"cmdConvert", -5), Yellow);
   // Fields beside which a label or an option button reaches over the border.
   for (const Text field : {u"cboMonth1", u"cboMType", u"txbMetNum"}) {
     EXPECT_NE(Pixel(field, 0), Yellow) << testing::PrintToString(field);
@@ -114,47 +114,47 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
         u"cboMonth0", u"optCalendar0", u"cboMonth2", u"cboDay2",   u"cboMType",   u"cboYearInMet",
         u"cboGMet",   u"txbMetNum",    u"cmdConvert"}) {
     Press({VK_TAB});
-    EXPECT_SEEN(Focus(), next);
+    EXPECT_EVENTUALLY(Focus(), next);
   }
   const std::size_t plain = Ink(u"optCalendar1").size();
   GoTo(u"optCalendar0");
   Press({VK_DOWN});
-  EXPECT_SEEN(Focus(), u"cmdConvert");
-  EXPECT_SEEN(Ink(u"optCalendar1").size() > plain, true) << "the chosen one is bold";
+  EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
+  EXPECT_EVENTUALLY(Ink(u"optCalendar1").size() > plain, true) << "the chosen one is bold";
   EXPECT_EQ(Ask(u"optCalendar1", BM_GETCHECK), BST_CHECKED);
 }
 
 TEST_F(RealWindow, EnterConvertsAndEscapeDoesNothing) {
   GoTo(u"txbYearCE0");  // where the first key takes the place of the year
   Press({'2', '0', '1', '2', VK_ESCAPE, VK_RETURN});
-  EXPECT_SEEN(Read(u"txbYearCE1"), u"2012");
+  EXPECT_EVENTUALLY(Read(u"txbYearCE1"), u"2012");
   const Text pane = Read(u"txbOutput");
   PostMessageW(Control(u"cmdConvert"), WM_KEYDOWN, VK_RETURN, Held);
   Press({VK_TAB});
-  EXPECT_SEEN(Focus(), u"cmdTBF0");
+  EXPECT_EVENTUALLY(Focus(), u"cmdTBF0");
   EXPECT_EQ(Read(u"txbOutput"), pane) << "the key was held, not pressed again";
   Fill(u"txbOutput", u"");
   GoTo(u"txbOutput");
   for (const LPARAM state : {LPARAM{1}, Held, Held}) {
     PostMessageW(Control(u"txbOutput"), WM_KEYDOWN, VK_RETURN, state);
   }
-  EXPECT_SEEN(Read(u"txbOutput"), u"\r\n\r\n\r\n");
+  EXPECT_EVENTUALLY(Read(u"txbOutput"), u"\r\n\r\n\r\n");
 }
 
 TEST_F(RealWindow, EnterAfterAClickPressesTheFocusedButton) {
   Fill(u"txbYearCE0", u"1");
   Click(Control(u"cmdTBF0"));
-  EXPECT_SEEN(Read(u"txbYearCE0") != u"1", true);
+  EXPECT_EVENTUALLY(Read(u"txbYearCE0") != u"1", true);
   const std::size_t block = Read(u"txbOutput").size();
   Press({VK_RETURN});
-  EXPECT_SEEN(Read(u"txbOutput").size(), 2 * block);
+  EXPECT_EVENTUALLY(Read(u"txbOutput").size(), 2 * block);
 }
 
-TEST_F(RealWindow, NothingGoesOnBehindABox) {
+TEST_F(RealWindow, NothingRunsBehindAMessageBox) {
   const auto is_framed = [this] { return Ask(u"cmdConvert", WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON; };
   Fill(u"txbYearCE0", u"");
   Press({VK_SPACE});
-  EXPECT_SEEN(Focus(), AtBox);
+  EXPECT_EVENTUALLY(Focus(), AtBox);
   const HWND box = GetLastActivePopup(window);
   EXPECT_EQ(TextOf(box), u"Invalid input");
   EXPECT_TRUE(FindWindowExW(box, nullptr, L"STATIC", L"Gregorian  date is invalid."));
@@ -168,15 +168,15 @@ TEST_F(RealWindow, NothingGoesOnBehindABox) {
     PostMessageW(Control(u"txbYearCE0"), message, VK_RETURN, 1);
   }
   PostMessageW(Control(u"txbYearCE0"), WM_CHAR, u'0', 0);
-  EXPECT_SEEN(Read(u"txbYearCE0"), u"0 3");
+  EXPECT_EVENTUALLY(Read(u"txbYearCE0"), u"0 3");
   EXPECT_EQ(GetLastActivePopup(window), box);
   EXPECT_EQ(Focus(), AtBox);
   Press({VK_ESCAPE});
-  EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
   EXPECT_TRUE(is_framed());
 }
 
-TEST_F(RealWindow, OnlyHandlesOfItsOwnControlsCount) {
+TEST_F(RealWindow, IgnoresHandlesOfOthers) {
   const HWND strange = CreateWindowExW(0, L"STATIC", L"", 0, 0, 0, 0, 0, nullptr, nullptr,
                                        GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(strange, GWLP_USERDATA, 1);
@@ -187,25 +187,25 @@ TEST_F(RealWindow, OnlyHandlesOfItsOwnControlsCount) {
     }
   }
   Press({VK_TAB});
-  EXPECT_SEEN(Focus(), u"cmdTBF0");
+  EXPECT_EVENTUALLY(Focus(), u"cmdTBF0");
 }
 
-TEST_F(RealWindow, TheEnterThatClosesABoxIsSpent) {
+TEST_F(RealWindow, EnterThatClosesAMessageBoxDoesNotConvert) {
   Fill(u"txbYearCE0", u"");
   GoTo(u"txbYearCE0");
   Press({VK_RETURN});
-  EXPECT_SEEN(Focus(), AtBox);
+  EXPECT_EVENTUALLY(Focus(), AtBox);
   // It is held until the field behind has the focus again. Its repeats and its end there bring up
   // no other box.
   Key(VK_RETURN, true);
-  EXPECT_SEEN(Focus(), u"txbYearCE0");
+  EXPECT_EVENTUALLY(Focus(), u"txbYearCE0");
   PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, Held);
   Key(VK_RETURN, false);
   Press({VK_TAB});
-  EXPECT_SEEN(Focus(), u"cboDay0");
+  EXPECT_EVENTUALLY(Focus(), u"cboDay0");
 }
 
-TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
+TEST_F(RealWindow, CombosChooseWhenTheChoiceIsMade) {
   SendMessageW(Control(u"cboDay0"), CB_SETCURSEL, 4, 0);
   // One after the other.
   const struct {
@@ -224,13 +224,13 @@ TEST_F(RealWindow, ListsChooseWhenTheChoiceIsMade) {
   for (const auto& step : steps) {
     if (Focus() != step.list) GoTo(step.list);
     Press(step.keys);
-    EXPECT_SEEN(std::pair(Read(step.list), Focus()), std::pair(step.shown, step.focus));
+    EXPECT_EVENTUALLY(std::pair(Read(step.list), Focus()), std::pair(step.shown, step.focus));
   }
 }
 
 // The line of a list reads the item that counts, however the list is left, and after a selection
 // from code.
-TEST_F(RealWindow, ListsShowWhatCounts) {
+TEST_F(RealWindow, CombosShowTheChosenItem) {
   for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
     SCOPED_TRACE(testing::PrintToString(list));
     const auto closed = ComboState(list);
@@ -238,41 +238,41 @@ TEST_F(RealWindow, ListsShowWhatCounts) {
     for (const bool by_mouse : {true, false}) {
       GoTo(list);
       by_mouse ? Click(Control(list)) : Press({VK_F4});
-      EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+      EXPECT_EVENTUALLY(Ask(list, CB_GETDROPPEDSTATE), TRUE);
       index == 0 ? Press({VK_DOWN}) : Press({VK_UP});
-      EXPECT_SEEN(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
+      EXPECT_EVENTUALLY(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
       PostMessageW(window, WM_TIMER, 1, 0);  // a tick: what is browsed does not count
       by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
-      EXPECT_SEEN(ComboState(list), closed);
+      EXPECT_EVENTUALLY(ComboState(list), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
     Fill(list, u"abc");
     Press({VK_F4});
-    EXPECT_SEEN(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+    EXPECT_EVENTUALLY(Ask(list, CB_GETDROPPEDSTATE), TRUE);
     Press({VK_ESCAPE});
-    EXPECT_SEEN(ComboState(list), std::tuple(Text(u"abc"), -1, FALSE));
+    EXPECT_EVENTUALLY(ComboState(list), std::tuple(Text(u"abc"), -1, FALSE));
     GoTo(u"cmdTBF0");
     Press({VK_RETURN});
-    EXPECT_SEEN(ComboState(list), closed);
+    EXPECT_EVENTUALLY(ComboState(list), closed);
   }
 }
 
-TEST_F(RealWindow, AnotherScaleLeavesWhatTheListsHold) {
+TEST_F(RealWindow, AnotherDpiLeavesWhatTheCombosHold) {
   const int dpi = static_cast<int>(GetDpiForWindow(window));
   GoTo(u"cboYearInMet");
   Press({'L'});
-  EXPECT_SEEN(Read(u"cboYearInMet"), u"l");
+  EXPECT_EVENTUALLY(Read(u"cboYearInMet"), u"l");
   GoTo(u"cboGMet");
   for (const int scale : {dpi * 5 / 4, dpi}) {
     Press({VK_F4, VK_UP});
-    EXPECT_SEEN(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
-    TellScale(scale);
+    EXPECT_EVENTUALLY(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
+    SendDpiChanged(scale);
     ExpectPlaces(*this, scale);
     EXPECT_EQ(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-2"), 1, FALSE));
     EXPECT_EQ(ComboState(u"cboYearInMet"), std::tuple(Text(u"l"), -1, FALSE));
   }
   Press({VK_UP});  // a choice again
-  EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
 }
 
 TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
@@ -287,7 +287,7 @@ TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
   const auto dragged = bounds();
   SendMessageW(window, WM_THEMECHANGED, 0, 0);
   EXPECT_EQ(bounds(), dragged);
-  TellScale(dpi * 5 / 4);
+  SendDpiChanged(dpi * 5 / 4);
   EXPECT_EQ(bounds(), dragged) << "which the message gave it";
   SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
   ExpectPlaces(*this, dpi * 5 / 4);
@@ -297,26 +297,26 @@ TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
   EXPECT_EQ(bounds()[0], 0) << "inside the work area";
 }
 
-TEST_F(RealWindow, TheWheelIsForTheListWithTheFocus) {
+TEST_F(RealWindow, TheWheelIsForTheFocusedCombo) {
   const HWND list = Control(u"cboGMet");
   constexpr WPARAM Up = WHEEL_DELTA << 16;
   PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
   Press({VK_TAB});
-  EXPECT_SEEN(Focus(), u"cmdTBF0");
+  EXPECT_EVENTUALLY(Focus(), u"cmdTBF0");
   EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
   GoTo(u"cboGMet");
   PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
-  EXPECT_SEEN(Focus(), u"cmdConvert");
+  EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
 }
 
 TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
   GoTo(u"txbYearCE0");
   Fill(u"txbYearCE0", u"  30");
-  Press({VK_END, VK_LEFT});                 // between the digits
-  EXPECT_SEEN(Read(u"txbYearCE0"), u"30");  // trimmed by a tick that comes by itself
-  EXPECT_SEEN(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(1, 1));
+  Press({VK_END, VK_LEFT});                       // between the digits
+  EXPECT_EVENTUALLY(Read(u"txbYearCE0"), u"30");  // trimmed by a tick that comes by itself
+  EXPECT_EVENTUALLY(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(1, 1));
   Fill(u"txbYearCE0", u"");
-  EXPECT_SEEN(IsWindowEnabled(Control(u"cmdTBF2")), FALSE);
+  EXPECT_EVENTUALLY(IsWindowEnabled(Control(u"cmdTBF2")), FALSE);
 }
 
 TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
@@ -325,12 +325,12 @@ TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
   Fill(u"txbOutput", Text(full, u'x'));
   SendMessageW(Control(u"txbOutput"), EM_SETSEL, 0, -1);  // which the block must not replace
   Press({VK_SPACE});
-  EXPECT_SEEN(Read(u"txbOutput").size(), full + block);
+  EXPECT_EVENTUALLY(Read(u"txbOutput").size(), full + block);
   EXPECT_EQ(Ask(u"txbOutput", EM_GETSEL), MAKELONG(full + block, full + block));
   EXPECT_GT(Ask(u"txbOutput", EM_GETFIRSTVISIBLELINE), 400);
   GoTo(u"txbOutput");
   Press({'X'});
-  EXPECT_SEEN(Read(u"txbOutput").size(), full + block + 1);
+  EXPECT_EVENTUALLY(Read(u"txbOutput").size(), full + block + 1);
 }
 
 TEST_F(RealWindow, CopiesThePaneToTheLetter) {
@@ -340,31 +340,31 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   Key(VK_CONTROL, true);
   Press({'A', VK_TAB});  // selects all, and types a tab
   Key(VK_CONTROL, false);
-  EXPECT_SEEN(Read(u"txbOutput"), u"\t");
+  EXPECT_EVENTUALLY(Read(u"txbOutput"), u"\t");
   Fill(u"txbOutput", u"\u00E4.\r\n\t");
-  EXPECT_SEEN(OpenClipboard(window), TRUE);
+  EXPECT_EVENTUALLY(OpenClipboard(window), TRUE);
   EmptyClipboard();
   SetClipboardData(CF_PRIVATEFIRST, GlobalAlloc(GMEM_MOVEABLE, 1));
   CloseClipboard();
   GoTo(u"cmdCopy");
   Press({VK_SPACE});
-  EXPECT_SEEN(IsClipboardFormatAvailable(CF_UNICODETEXT), TRUE);
-  EXPECT_SEEN(OpenClipboard(nullptr), TRUE);
+  EXPECT_EVENTUALLY(IsClipboardFormatAvailable(CF_UNICODETEXT), TRUE);
+  EXPECT_EVENTUALLY(OpenClipboard(nullptr), TRUE);
   EXPECT_EQ(IsClipboardFormatAvailable(CF_PRIVATEFIRST), FALSE);
   const auto* copied = static_cast<const char16_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
   EXPECT_EQ(Text(copied ? copied : u""), u"\u00E4.\r\n\t");
   // While another program holds the clipboard.
   Press({VK_SPACE, VK_TAB});
-  EXPECT_SEEN(Focus(), u"cmdQuit");
+  EXPECT_EVENTUALLY(Focus(), u"cmdQuit");
   CloseClipboard();
 }
 
-TEST_F(RealWindow, ComingBackKeepsTheFocus) {
+TEST_F(RealWindow, RestoringKeepsTheFocus) {
   GoTo(u"cboDay0");
   PostMessageW(window, WM_SYSCOMMAND, SC_MINIMIZE, 0);
-  EXPECT_SEEN(IsIconic(window), TRUE);
+  EXPECT_EVENTUALLY(IsIconic(window), TRUE);
   PostMessageW(window, WM_SYSCOMMAND, SC_RESTORE, 0);
-  EXPECT_SEEN(Focus(), u"cboDay0");
+  EXPECT_EVENTUALLY(Focus(), u"cboDay0");
 }
 
 TEST_F(RealWindow, EndsWithCode0) {

@@ -1,5 +1,5 @@
 // What toolkit.h promises of a text box. What it promises of the rest shows in the form's tests.
-#include "memory_toolkit.h"
+#include "fake_toolkit.h"
 
 TEST(TextBoxes, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
   using Stretch = std::pair<int, int>;
@@ -12,7 +12,7 @@ TEST(TextBoxes, TrimmingKeepsCaretAndSelectionOnTheirCharacters) {
       {u"\t5", {2, 2}, u"\t5", {2, 2}},
       // clang-format on
   };
-  Memory::TextBox box(u"");
+  Fake::TextBox box(u"");
   for (const auto& [before, selected, after, still_selected] : rows) {
     SCOPED_TRACE(testing::PrintToString(before));
     box.text = before;

@@ -1,8 +1,8 @@
 // The form on the toolkit in memory.
 #include <algorithm>
 
+#include "fake_toolkit.h"
 #include "main_window.h"
-#include "memory_toolkit.h"
 #include "today.h"
 
 namespace {
@@ -16,7 +16,7 @@ struct Form : testing::Test {
   using enum frmMain::Calendar;
   using enum frmMain::Step;
 
-  Memory::Window window;
+  Fake::Window window;
   frmMain form{window, {2, 1}, u"The notice"};
   // The fields of each row, from the left.
   const std::vector<Toolkit::Control*> fields[3] = {
@@ -28,16 +28,15 @@ struct Form : testing::Test {
   Form() {
     system_date = u"01-30-2026";
     form.Form_Load();
-    Memory::screen.is_on = true;
+    Fake::screen.is_on = true;
   }
 
   // What a person sees: a row from the left with a blank behind each field, and then the weekday.
   Text Row(int row) const {
     Text text;
     for (Toolkit::Control* const field : fields[row]) {
-      if (auto* const box = dynamic_cast<Memory::TextBox*>(field)) text += box->text;
-      if (auto* const list = dynamic_cast<Memory::ComboBox*>(field))
-        text += list->Item(list->index);
+      if (auto* const box = dynamic_cast<Fake::TextBox*>(field)) text += box->text;
+      if (auto* const list = dynamic_cast<Fake::ComboBox*>(field)) text += list->Item(list->index);
       text += u" ";
     }
     return text + form.lblDayOfWeek[row].Caption();
@@ -59,8 +58,8 @@ struct Form : testing::Test {
     }
   }
   void Push(const Text& name) {
-    auto& button = dynamic_cast<Memory::CommandButton&>(*window.controls.at(name));
-    Memory::screen.focus = &button;
+    auto& button = dynamic_cast<Fake::CommandButton&>(*window.controls.at(name));
+    Fake::screen.focus = &button;
     button.Click();
   }
   // Today in all rows, and then this entry in the row of the calendar chosen.
@@ -104,14 +103,14 @@ TEST_F(Form, MovesToDays) {
     Push(button);
     EXPECT_EQ(Rows(), rows);
     EXPECT_EQ(form.txbOutput.Text(), u"typed" + block);
-    EXPECT_EQ(window.box, Memory::Box());
+    EXPECT_EQ(window.box, Fake::Box());
     EXPECT_EQ(form.lblSameDay.Caption(), u"The dates above denote the same day.");
-    EXPECT_EQ(Memory::screen.focus, &form.cmdConvert);
+    EXPECT_EQ(Fake::screen.focus, &form.cmdConvert);
   }
 }
 
 // All stays as it was, but that Convert blanks the lunar weekday. A lone x is typed into a list.
-TEST_F(Form, RefusesWithABox) {
+TEST_F(Form, RefusesWithAMessageBox) {
   const auto Warns = Toolkit::Icon::Exclamation, Tells = Toolkit::Icon::Information;
   enum Stepping { NoSteps, Steps };  // whether Back and Forward can be pressed
   const std::tuple<int, Text, Stepping, Text, Text, Text, Toolkit::Icon> refusals[] = {
@@ -147,7 +146,7 @@ TEST_F(Form, RefusesWithABox) {
     system_date = u"12-18-8265";
     if (steps == NoSteps) form.cmdTBF[Back].Click();  // as before the tick has disabled it
     Push(button);
-    EXPECT_EQ(window.box, Memory::Box(text, title, icon));
+    EXPECT_EQ(window.box, Fake::Box(text, title, icon));
     EXPECT_EQ(All(), seen);
   }
 }
@@ -170,7 +169,7 @@ TEST_F(Form, LoadsItsTextsColoursAndFirstItems) {
   // The years are empty, the rest is the first item or as stored.
   EXPECT_EQ(Rows(), u"January 1  Monday | January 1  Lunaday | GMet-2 A 301 LYA-1 LA-1 1 ");
   EXPECT_TRUE(form.optCalendar[Gregorian].FontBold());
-  EXPECT_EQ(Memory::screen.focus, nullptr);
+  EXPECT_EQ(Fake::screen.focus, nullptr);
   EXPECT_EQ(window.milliseconds, 1000);
 }
 
@@ -200,7 +199,7 @@ TEST_F(Form, EnterConvertsTheChosenCalendarAlone) {
   }
 }
 
-TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
+TEST_F(Form, AChoiceInAComboBlanksTheWeekdayOfItsRow) {
   // clang-format off
   const Text Months = u"January February March April May June July August September October November December ";
   const Text Days = u"1 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 21 22 23 24 25 26 27 28 29 30 31 ";
@@ -225,16 +224,16 @@ TEST_F(Form, AChoiceInAListBlanksTheWeekdayOfItsRow) {
       std::ssize(rows));
   for (const auto& [name, items, row] : rows) {
     SCOPED_TRACE(testing::PrintToString(name));
-    auto& list = dynamic_cast<Memory::ComboBox&>(*window.controls.at(name));
+    auto& list = dynamic_cast<Fake::ComboBox&>(*window.controls.at(name));
     Text seen;
     for (int index = 0; index < list.ListCount(); ++index) seen.append(list.Item(index)) += u' ';
     EXPECT_EQ(seen, items);
     for (const int each : {0, 1, 2}) form.lblDayOfWeek[each].SetCaption(u"Someday");
-    Memory::screen.focus = nullptr;
+    Fake::screen.focus = nullptr;
     Toolkit::Raise(list.Click);
     for (const int each : {0, 1, 2})
       EXPECT_EQ(form.lblDayOfWeek[each].Caption().empty(), each == row) << "row " << each;
-    EXPECT_EQ(Memory::screen.focus, row == NoRow ? nullptr : &form.cmdConvert);
+    EXPECT_EQ(Fake::screen.focus, row == NoRow ? nullptr : &form.cmdConvert);
   }
 }
 
@@ -242,15 +241,15 @@ TEST_F(Form, ChoosingACalendarChangesNoDate) {
   window.NoteActivated();
   const Text seen = All();
   for (const int chosen : {Lunar, Solar, Gregorian}) {
-    auto& option = dynamic_cast<Memory::OptionButton&>(form.optCalendar[chosen]);
+    auto& option = dynamic_cast<Fake::OptionButton&>(form.optCalendar[chosen]);
     option.NoteChosen();
-    EXPECT_EQ(Memory::screen.focus, &form.cmdConvert);
+    EXPECT_EQ(Fake::screen.focus, &form.cmdConvert);
     for (const int each : {Gregorian, Solar, Lunar}) {
       EXPECT_EQ(form.optCalendar[each].FontBold(), each == chosen) << each << " of " << chosen;
     }
-    Memory::screen.focus = &option;
+    Fake::screen.focus = &option;
     option.NoteChosen();
-    EXPECT_EQ(Memory::screen.focus, &option) << "that was chosen already";
+    EXPECT_EQ(Fake::screen.focus, &option) << "that was chosen already";
   }
   EXPECT_EQ(All(), seen);
 }
@@ -268,7 +267,7 @@ TEST_F(Form, CopiesAndClearsThePane) {
 
 TEST_F(Form, TheTickDisablesWhatCannotBeDone) {
   for (const auto& [name, control] : window.controls) {
-    auto* const button = dynamic_cast<Memory::CommandButton*>(control);
+    auto* const button = dynamic_cast<Fake::CommandButton*>(control);
     if (!button) continue;
     SCOPED_TRACE(testing::PrintToString(name));
     EXPECT_TRUE(button->Click) << "nobody handles it";
@@ -276,25 +275,25 @@ TEST_F(Form, TheTickDisablesWhatCannotBeDone) {
     Push(u"cmdTBF0");
     window.Tick();
     EXPECT_TRUE(button->Enabled());
-    Memory::screen.focus = button;
+    Fake::screen.focus = button;
     form.txbOutput.SetText(u"");
     form.txbYearCE[Gregorian].SetText(u"");
     window.Tick();
     const bool stays = name == u"cmdTBF0" || name == u"cmdConvert" || name == u"cmdQuit";
     EXPECT_EQ(button->Enabled(), stays);
-    EXPECT_EQ(Memory::screen.focus, stays ? button : &form.cmdConvert);
+    EXPECT_EQ(Fake::screen.focus, stays ? button : &form.cmdConvert);
   }
 }
 
-TEST_F(Form, WhatIsShownAlreadyIsNotShownAnew) {
+TEST_F(Form, UnchangedPropertiesAreNotReapplied) {
   window.NoteActivated();
   window.Tick();
-  Memory::screen.applied.clear();
+  Fake::screen.applied.clear();
   form.optCalendar[Gregorian].Select();
   Push(u"cmdTBF0");
   window.Tick();
   // The weekdays alone, which are blanked meanwhile.
-  EXPECT_EQ(Memory::screen.applied, "Caption Caption Caption Caption Caption Caption ");
+  EXPECT_EQ(Fake::screen.applied, "Caption Caption Caption Caption Caption Caption ");
 }
 
 TEST_F(Form, QuitAndCloseEndTheProgram) {

@@ -6,7 +6,7 @@
 
 #include "control_names.h"
 
-namespace Memory {
+namespace Fake {
 
 using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title, icon
 
@@ -101,4 +101,4 @@ struct Window : Toolkit::Window {
   void ApplyCaption() override {}
 };
 
-}  // namespace Memory
+}  // namespace Fake

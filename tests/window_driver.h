@@ -22,9 +22,9 @@
 // Expects `seen` to become `wanted` while the user waits. What is compared is the value that was
 // waited for, or the last one that was seen instead; so `wanted` must not hold before the action
 // that leads to it.
-#define EXPECT_SEEN(seen, wanted) EXPECT_EQ(Await([&] { return seen; }, wanted), wanted)
+#define EXPECT_EVENTUALLY(seen, wanted) EXPECT_EQ(Await([&] { return seen; }, wanted), wanted)
 
-namespace Desk {
+namespace Driver {
 
 // Looks, 2 ms and more apart; far more than anything takes. Time itself is no measure: after a
 // while in which the whole machine stood still nothing has had its chance yet.
@@ -162,10 +162,10 @@ struct RealWindow : testing::Test {
   // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.
   void GoTo(const Text& control) const {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
-    EXPECT_SEEN(Focus(), control);
+    EXPECT_EVENTUALLY(Focus(), control);
   }
   // Tells the program of another scale as the system does, with a place in its own memory.
-  void TellScale(int dpi) const {
+  void SendDpiChanged(int dpi) const {
     RECT place;
     GetWindowRect(window, &place);
     void* const there = VirtualAllocEx(process, nullptr, sizeof place, MEM_COMMIT, PAGE_READWRITE);
@@ -177,4 +177,4 @@ struct RealWindow : testing::Test {
   }
 };
 
-}  // namespace Desk
+}  // namespace Driver
