@@ -18,8 +18,8 @@ namespace {
 constexpr std::int32_t UnixEpochJdn = 2440588;
 constexpr const char* Baseline = "std::chrono, there and back";
 
-// Behind the usual table: the best time of each benchmark and, if the peer has run, how many times
-// the peer's that is.
+// After the usual table: the best time of each benchmark and, if the baseline has run, how many
+// times that of the baseline it is.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
   void ReportRuns(const std::vector<Run>& runs) override {
@@ -33,10 +33,10 @@ class RatioReporter : public benchmark::ConsoleReporter {
   }
 
   void Finalize() override {
-    const auto peer = best.find(Baseline);
+    const auto baseline = best.find(Baseline);
     for (const auto& [name, time] : best) {
       std::printf("%-32s %6.1f ns", name.c_str(), time);
-      if (peer != best.end()) std::printf(" %6.1f times", time / peer->second);
+      if (baseline != best.end()) std::printf(" %6.1f times", time / baseline->second);
       std::printf("\n");
     }
   }

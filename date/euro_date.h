@@ -36,24 +36,24 @@ inline void JdnToEuroDate(EuroDate& date) {
 }
 
 // The English name of weekday `number`, 0 being Sunday; empty for a number outside 0 to 6. With
-// `padded`, filled at the right with blanks to nine characters, the length of "Wednesday".
+// `padded`, filled at the right with spaces to nine characters, the length of "Wednesday".
 std::u16string WeekdayName(std::int16_t number, bool padded);
 
 // The same for the weekday of day `jdn`.
 std::u16string DayOfWeekName(std::int32_t jdn, bool padded);
 
 // `date` as numbers: day and month with two digits at least, the year in plain decimal with a
-// leading "-" if negative, in the order `order`, joined by `separator`. A negative year that is not
-// in front stands in brackets. A year above 9999 or below -9999 is grouped with the first character
-// of `thousands_separator`, unless that is empty.
+// leading "-" if negative, in the order `order`, joined by `separator`. A negative year that does
+// not come first is in brackets. A year above 9999 or below -9999 is grouped with the first
+// character of `thousands_separator`, cut to 8 bits, unless that is empty.
 std::u16string DateText(const EuroDate& date, std::int16_t order, std::u16string_view separator,
                         std::u16string_view thousands_separator);
 
-// The number `year_text` with the first character of `separator` between groups of three digits;
-// the text itself if `separator` is empty.
+// The number `year_text` with the first character of `separator`, cut to 8 bits, between groups of
+// three digits; the text itself if `separator` is empty.
 std::u16string SeparateThousands(std::u16string_view year_text, std::u16string_view separator);
 
-// Cuts `text` just ahead of its first character of code 0, if it has one.
+// Cuts `text` before its first null character, if it has one.
 void TrimAtNul(std::u16string& text);
 
 }  // namespace DatePr2

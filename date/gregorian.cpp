@@ -1,6 +1,6 @@
-// The arithmetic is the standard library's. Its years have 16 bits, but every 400 years, an era,
-// the calendar repeats itself: the date is moved by whole eras to around the library's day 0, and
-// the answer back.
+// The arithmetic is the standard library's. Its years have only 16 bits, but the calendar repeats
+// itself every 400 years, an era: the date is moved by whole eras close to the library's day 0, and
+// the result back.
 #include <chrono>
 
 #include "calendar_library.h"
@@ -21,13 +21,13 @@ void euro_date_to_jdn(EuroDate* date) {
   date->valid = 0;
   date->jdn = NoSuchDayJdn;
   if (date->calendar != GregorianCalendar) return;
-  // Looked at first, since the library keeps only 8 bits of a month and of a day.
+  // Checked first, since the library keeps only 8 bits of a month and of a day.
   if (date->month < 1 || date->month > 12 || date->day < 1 || date->day > 31) return;
   const auto moved = std::chrono::year(date->year % EraYears) / date->month / date->day;
   if (!moved.ok()) return;
   const std::int64_t jdn = Day0Jdn + std::chrono::sys_days(moved).time_since_epoch().count() +
                            date->year / EraYears * EraDays;
-  // A day has a next one, which must fit, too.
+  // The next day must also fit.
   if (jdn <= NoSuchDayJdn || jdn >= std::numeric_limits<std::int32_t>::max()) return;
   date->valid = 1;
   date->jdn = static_cast<std::int32_t>(jdn);

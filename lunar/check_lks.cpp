@@ -15,9 +15,9 @@ std::int16_t FirstFailedCheck(LksDate& date) {
   if (date.YearType != pattern.substr(static_cast<std::size_t>(date.YearInMet) - 1, 1))
     return LksWrongYear;
 
-  // "C" is one letter past the types that there are; the last check refuses it.
+  // "C" is the type of no month; the last check refuses it.
   if (date.MonthType < u"A" || date.MonthType > u"C") return LksWrongMonthType;
-  if (date.Month < 1 || date.Month > 13) return LksWrongMonth;
+  if (date.Month < 1 || date.Month > MostMonths) return LksWrongMonth;
   if (date.Day < 1 || date.Day > 30) return LksWrongDay;
 
   // No checks of month length, type or month 13 of their own: a date that does not exist adds up to

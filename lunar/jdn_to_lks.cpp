@@ -36,8 +36,8 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   date.MetType = MetCycleTypes[cycle - 1];
   d -= MetCycleStart[cycle];
 
-  // Nor is this one, since no year begins more than 18 days later than if all 19 were of one
-  // length.
+  // Nor is this guess, since no year begins more than 18 days later than if all 19 had one length;
+  // it is also one too low at most.
   const CycleYears& years = YearsOf(date.MetType);
   const std::size_t year = UnitOfDay(d, years.start, (d - 18) * YearsInMetCycle / LongestCycle + 1);
   const char16_t year_type = years.types[year - 1];  // 0 after the 19th
@@ -46,12 +46,12 @@ std::int16_t JdnToLksFields(std::int32_t jdn, LksDate& date, bool allowBeforeCe)
   date.YearType = year_type;
   d -= years.start[year];
 
-  // The last month m with DaysBeforeMonth(m) <= d, which is 59 * (m - 1) <= 2 * d. The last day of
-  // a year of type B would be in a month 13 by that; it is the 30th of month 12.
-  const std::int32_t month = std::min(2 * d / 59 + 1, year_type == u'C' ? 13 : 12);
+  // The last month m with DaysBeforeMonth(m) <= d, which is 59 * (m - 1) <= 2 * d. By that the last
+  // day of a year of type B would be in a month 13; it is the 30th of month 12.
+  const std::int32_t month = std::min(2 * d / 59 + 1, year_type == u'C' ? MostMonths : 12);
   date.Month = static_cast<std::int16_t>(month);
   date.Day = static_cast<std::int16_t>(d - DaysBeforeMonth(month) + 1);
-  if (date.Month < 1 || date.Month > 13) return LksNoMonth;
+  if (date.Month < 1 || date.Month > MostMonths) return LksNoMonth;
   if (date.Day < 1 || date.Day > 30) return LksNoDay;
   // Odd months have 30 days, and so has month 12 of a year of type B. That is asked first, since
   // the processor guesses it right nearly always.

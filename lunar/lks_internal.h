@@ -1,5 +1,5 @@
-// What the files of this directory share: the years of a Metonic cycle and the lengths by which
-// both conversions count.
+// What the files of lunar/ share: the years of a Metonic cycle, and the lengths by which both
+// conversions count.
 #pragma once
 
 #include "lks_date.h"
@@ -7,6 +7,7 @@
 namespace Karvel_Sorand {
 
 inline constexpr std::int16_t YearsInMetCycle = 19;
+inline constexpr std::int16_t MostMonths = 13;  // of a year of type C; the others have 12
 
 // The years of a Metonic cycle, by the cycle's type.
 struct CycleYears {

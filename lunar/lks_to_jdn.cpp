@@ -21,7 +21,7 @@ std::int32_t LksDateToJdn(LksDate& date) {
   days += DaysBeforeMonth(std::max<std::int32_t>(date.Month, 1)) + date.Day - 1;
   // Month 12 of a year of type B has 30 days, and DaysBeforeMonth takes it for 29. That matters
   // only for a month 13, which no such year has but somebody may enter.
-  if (date.Month == 13 && date.YearType == u"B") ++days;
+  if (date.Month == MostMonths && date.YearType == u"B") ++days;
 
   if (date.GMet == 2) days += GreatCycleDays;
   date.Jdn = MinLksJdn + days;

@@ -19,7 +19,7 @@ std::int32_t DecimalValue(std::u16string_view text) {
   std::int64_t value = 0;
   for (const char16_t c : text) {
     if (c < u'0' || c > u'9') break;
-    // One step beyond the limit is enough to know that the number lies outside.
+    // One beyond the limit is enough to know that the number is outside.
     value = std::min<std::int64_t>(value * 10 + (c - u'0'), std::int64_t{Limits::max()} + 1);
   }
   return static_cast<std::int32_t>(

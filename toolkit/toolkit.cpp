@@ -7,7 +7,7 @@ namespace Toolkit {
 
 namespace {
 
-// Gives `property` the value `value` and tells whether that is another than it had.
+// Sets `property` and returns whether that changed it.
 template <class Property, class Value>
 bool Change(Property& property, const Value& value) {
   if (property == value) return false;
@@ -15,7 +15,7 @@ bool Change(Property& property, const Value& value) {
   return true;
 }
 
-// Any program can send a key of any number; there are 256.
+// There are 256 keys, but another program can send any number.
 std::size_t KeyNumber(std::int16_t key_code) {
   return static_cast<std::size_t>(key_code) & 0xFF;
 }
@@ -34,13 +34,15 @@ void TextBox::SetText(std::u16string_view text) {
 std::u16string TextBox::TrimText() {
   std::u16string text = Text();
   const std::size_t first = text.find_first_not_of(u' ');
-  const auto cut = static_cast<std::int32_t>(first == text.npos ? text.size() : first);
-  std::u16string rest = text.substr(static_cast<std::size_t>(cut));
-  rest.resize(rest.find_last_not_of(u' ') + 1);  // npos + 1 is 0: nothing but blanks
+  const auto removed = static_cast<std::int32_t>(first == text.npos ? text.size() : first);
+  std::u16string rest = text.substr(static_cast<std::size_t>(removed));
+  rest.resize(rest.find_last_not_of(u' ') + 1);  // npos + 1 is 0: only spaces
   if (rest.size() == text.size()) return text;
 
   const auto length = static_cast<std::int32_t>(rest.size());
-  const auto moved = [&](std::int32_t place) { return std::clamp(place - cut, 0, length); };
+  const auto moved = [&](std::int32_t position) {
+    return std::clamp(position - removed, 0, length);
+  };
   const Selection selection = GetSelection();
   ApplyText(rest);
   SetSelection({moved(selection.start), moved(selection.end)});

@@ -74,23 +74,23 @@ struct Bounds {
   bool operator==(const Bounds&) const = default;
 };
 
-// One row of a window's layout. The rows are in the tab order of their controls, live longer
-// than these, and their texts are null-terminated.
+// A control of the layout. The templates are in tab order, live longer than their controls, and
+// have null-terminated texts.
 struct ControlTemplate {
   std::u16string_view name;
   int index;  // in the group of controls that share the name; NoIndex for a control of its own
   Kind kind;
   Bounds container;          // of the client area, or within it that of the frame
   Bounds bounds;             // within the container
-  std::u16string_view text;  // the caption, the first text of a box or of a line to type in
+  std::u16string_view text;  // the caption, or the first text of a text box or an edit field
   Font font;
-  std::u16string_view accessible_name;  // what a screen reader says; empty: the caption serves
+  std::u16string_view accessible_name;  // for screen readers; empty if they have the caption
 
   struct Properties {
-    bool centered = false;   // label: text in the middle
-    bool multiline = false;  // text box: several lines, vertical scroll bar
+    bool centered = false;   // label
+    bool multiline = false;  // text box: with a vertical scroll bar
     int max_length = 0;      // text box: characters that can be typed; 0 is no limit
-    bool editable = false;   // list: a line that the user can type in
+    bool editable = false;   // combo box: with an edit field
   } properties;
 };
 inline constexpr int NoIndex = -1;
@@ -145,7 +145,7 @@ class TextBox : public Control {
  public:
   static constexpr Kind OwnKind = Kind::TextBox;
 
-  // A stretch of characters, counted from 0; an empty one is the caret's place.
+  // A range of characters, counted from 0; an empty one is the position of the caret.
   struct Selection {
     std::int32_t start, end;
     bool operator==(const Selection&) const = default;
@@ -157,11 +157,11 @@ class TextBox : public Control {
   virtual std::u16string Text() const = 0;      // at first that of its row
   virtual std::int32_t TextLength() const = 0;  // without copying the text
   void SetText(std::u16string_view text);
-  virtual void AppendText(std::u16string_view text) = 0;  // without copying what is there
-  virtual void SetSelStart(std::int32_t position) = 0;    // the caret, and scrolls it into view
+  virtual void AppendText(std::u16string_view text) = 0;  // without copying the text before it
+  virtual void SetSelStart(std::int32_t position) = 0;  // moves the caret and scrolls it into view
 
-  // Takes the blanks off both ends and gives the text that is left. Writes nothing where there are
-  // none; otherwise caret and selection stay on the characters they stood on.
+  // Removes the spaces at both ends and returns the text that is left. Writes nothing if there are
+  // none; otherwise caret and selection stay on their characters.
   std::u16string TrimText();
 
  protected:
@@ -219,8 +219,8 @@ class OptionButton : public Control, public Colored {
   virtual void ApplyValue() = 0;
   virtual void ApplyFontBold() = 0;
 
-  // To be called by the platform when the user picks the button. Nothing happens if it is the
-  // selected one: some platforms report a pick whenever the button gets the focus.
+  // To be called by the platform when the user chooses the button. Does nothing if it is the
+  // selected one: Windows reports a choice whenever the button is focused.
   void NoteChosen();
 
  private:
@@ -269,7 +269,7 @@ class Window : public Colored, public Timer {
   const std::u16string& Caption() const { return caption_; }
   void SetCaption(std::u16string_view caption);
 
-  // To be called for the rows in their order, before Run. Makes a control of the class whose
+  // To be called for the rows in their order, before Run. Returns a control of the class whose
   // OwnKind is the row's kind: the form relies on that.
   virtual std::unique_ptr<Control> NewControl(const ControlTemplate& row) = 0;
 
@@ -280,8 +280,8 @@ class Window : public Colored, public Timer {
   // Shows a message box with an OK button and returns when the user has closed it.
   virtual void ShowMessage(std::u16string_view text, std::u16string_view title, Icon icon) = 0;
 
-  // Empties the clipboard, then puts `text` on it. While another program holds the clipboard that
-  // cannot be done and it stays as it is. The user hears of a failure only by a sound.
+  // Empties the clipboard, then puts `text` on it. While another program holds the clipboard, it
+  // stays as it is. A failure only makes a sound.
   virtual void SetClipboardText(std::u16string_view text) = 0;
 
   // Takes the window off the screen and ends the program with exit code 0, without a question. It

@@ -1,22 +1,22 @@
 #include "main_window.h"
 
 void frmMain::cboGMet_Click() {
-  BlankWeekday(Lunar);
+  ClearWeekday(Lunar);
 }
 
 void frmMain::cboYearInMet_Click() {
-  BlankWeekday(Lunar);
+  ClearWeekday(Lunar);
 }
 
 void frmMain::cboMonth_Click(std::int16_t Index) {
-  if (FormLoaded) BlankWeekday(Index);
+  if (FormLoaded) ClearWeekday(Index);
 }
 
 void frmMain::cboDay_Click(std::int16_t Index) {
-  if (FormLoaded) BlankWeekday(Index);
+  if (FormLoaded) ClearWeekday(Index);
 }
 
-void frmMain::BlankWeekday(std::int16_t row) {
+void frmMain::ClearWeekday(std::int16_t row) {
   lblDayOfWeek[row].SetCaption(u"");
   FocusConvert();
 }

@@ -1,6 +1,5 @@
-// From the names of the layout to its rows. The compiler goes this way: a control that the layout
-// does not have, that is of another kind, or that has no room does not build. The compiler's
-// message names it.
+// Finds the rows of the layout by name at compile time: a control that the layout does not have,
+// that is of another kind, or that has no room does not build, and the compiler's message names it.
 #pragma once
 
 #include <cstddef>

@@ -20,7 +20,7 @@ std::u16string InvalidLksText(const LksDate& date, std::int16_t status) {
   return text;
 }
 
-// The words of the messages, by row: the system's own, two blanks and "Karvel-Sorand" included.
+// By row. The two spaces and "Karvel-Sorand" are meant.
 constexpr std::u16string_view Unreadable[] = {u"Gregorian  date is invalid.",
                                               u"Solar Karvel-Gregorian  date is invalid."};
 constexpr std::u16string_view DoesNotExist[] = {u"The Gregorian date is invalid.",
@@ -80,7 +80,7 @@ void frmMain::AppendBlock(Calendar calendar, const EuroDate& euro, const LksDate
   const std::u16string lines[] = {
       date + u" (" + lblDayOfWeek[Gregorian].Caption() + u" in 7-day week)",
       date + u" (" + lblDayOfWeek[Solar].Caption() + u" in 7/8-day week)", lks.Label};
-  // The line of the selected calendar comes first, the others follow in their order.
+  // The line of the selected calendar first, the others in their order.
   std::u16string block = u"  " + lines[calendar] + u"\r\n";
   for (const Calendar other : {Gregorian, Solar, Lunar}) {
     if (other != calendar) block += u"= " + lines[other] + u"\r\n";

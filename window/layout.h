@@ -1,5 +1,4 @@
-// The layout of the window: what is where before the first line of the form runs. All
-// lengths are in twips, 1/1440 of an inch.
+// The layout of the window. All lengths are in twips, 1/1440 of an inch.
 #pragma once
 
 #include <algorithm>
@@ -29,7 +28,7 @@ inline constexpr Bounds InFrame = {120, 120, 11775, 2415};
 
 // clang-format off
 // In tab order: the tab position of a control is its row.
-// name, index, kind, container, {left, top, width, height}, text, font, spoken name, properties
+// name, index, kind, container, {left, top, width, height}, text, font, accessible name, properties
 inline constexpr ControlTemplate Rows[] = {
     {u"txbOutput", NoIndex, TextBox, OnWindow, {120, 2640, 9495, 2775},
      u"", Typewriter, u"Output", {.multiline = true}},
@@ -96,7 +95,7 @@ inline constexpr ControlTemplate Rows[] = {
 };
 // clang-format on
 
-// Labels and option buttons may reach a little into the fields beside them, which are drawn above.
+// Labels and option buttons may reach a little into the fields beside them, which cover them.
 inline constexpr int MostOverlap = 60;
 
 constexpr bool MayBeOverlapped(const ControlTemplate& row) {

@@ -2,9 +2,9 @@
 //
 // The index of a date control is its calendar. The date fields are the only store of the current
 // date: ReadEuroDate and ReadLksDate are the only ways from the fields into records, ShowEuroDate
-// and ShowLksDate the only ways back. A list or an option that is selected from code runs its click
-// handler at once, and the list handlers blank a weekday label; so whatever sets lists and a label
-// writes the label last.
+// and ShowLksDate the only ways back. A selection set from code runs the click handler at once, and
+// the handlers of the combo boxes clear a weekday label; so whoever sets combo boxes and a label
+// sets the label last.
 //
 // Reads, shows and the tick are silent; only a command shows a message box.
 #pragma once
@@ -76,21 +76,21 @@ class frmMain {
   Toolkit::Label& lblSameDay = Control<Toolkit::Label>(u"lblSameDay");
   Toolkit::Label& lblCopyright = Control<Toolkit::Label>(u"lblCopyright");
 
-  // start_up.cpp. Form_Load brings the window from its layout to the moment it can go on the
-  // screen; to be called once. FillDateLists gives every list its items and selects one.
+  // start_up.cpp. Form_Load prepares the window for the screen; to be called once. FillDateLists
+  // fills each combo box and selects an item.
   void Form_Load();
   void FillDateLists();
 
   // read_date.cpp. Fill a record from row `Index` (Gregorian or Solar) or from the lunar row, and
-  // take the blanks off the ends of the text fields they read. The status is 0 or says which field
-  // is bad. ReadEuroDate then leaves `year` as it was and sets `valid` to 0; it does not test that
-  // the date exists. ReadLksDate also gives the statuses of CheckLksDate, and LksWrongYear where no
-  // year or no month is selected.
+  // trim the spaces at both ends of the text boxes that they read. The status is 0, or negative for
+  // a bad field. ReadEuroDate then leaves `year` as it was and sets `valid` to 0; it does not test
+  // that the date exists. ReadLksDate also returns the statuses of CheckLksDate, and LksWrongYear
+  // if no year or no month is selected.
   enum YearStatus : std::int16_t {
     YearAccepted = 0,
     YearEmpty = -1,
     YearNotDigits = -2,   // a character other than a digit or "-"
-    YearMinusInside = -3  // a "-" behind another character
+    YearMinusInside = -3  // a "-" after another character
   };
   enum MetNumStatus : std::int16_t { MetNumEmpty = -1, MetNumNotDigits = -2 };
   void ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& status);
@@ -107,16 +107,16 @@ class frmMain {
   void txbYearCE_KeyUp(std::int16_t Index, std::int16_t KeyCode, std::int16_t Shift);
   void txbMetNum_KeyUp(std::int16_t KeyCode, std::int16_t Shift);
 
-  // same_day.cpp. Says in lblSameDay whether the three rows denote one day, and gives that back.
-  // Mode 0 takes False and mode 1 takes True without reading anything, for a caller from outside
-  // the form that knows the answer; any other compares.
+  // same_day.cpp. Shows in lblSameDay whether the three rows denote one day, and returns that. Mode
+  // 0 takes False and mode 1 takes True without reading anything, which the form does not use; any
+  // other compares.
   static constexpr std::int16_t CompareRows = -1;
   bool CheckSameDay(std::int16_t mode);
 
   // tick.cpp. Once a second: the same-day sentence, and which commands can be pressed.
   void Timer1_Timer();
 
-  // combo_clicks.cpp. A new selection blanks the weekday of its row and hands the focus to Convert.
+  // combo_clicks.cpp. A new selection clears the weekday of its row and moves the focus to Convert.
   // While the window is being loaded, months and days do nothing.
   void cboGMet_Click();
   void cboYearInMet_Click();
@@ -125,7 +125,7 @@ class frmMain {
   void FocusConvert();  // if the Convert button is visible and enabled
 
   // step.cpp. Moves all rows to today, or to the day before or after the date of the selected
-  // calendar, by the Step `Index`; the pane stays as it is. Form_Activate makes the first screen:
+  // calendar, by the Step `Index`; the pane stays as it is. Form_Activate shows the first screen:
   // today, converted once.
   void cmdTBF_Click(std::int16_t Index);
   void Form_Activate();
@@ -153,9 +153,9 @@ class frmMain {
   bool ConvertFromEuro(std::int16_t Index, EuroDate& euro, Karvel_Sorand::LksDate& lks);
   void AppendBlock(Calendar calendar, const EuroDate& euro, const Karvel_Sorand::LksDate& lks);
 
-  void BlankWeekday(std::int16_t row);  // of a date that is no longer the one converted
+  void ClearWeekday(std::int16_t row);  // and moves the focus to Convert
 
   ProgramVersion version;
   std::u16string copyright;
-  bool FormLoaded = false;  // True from the end of Form_Load on
+  bool FormLoaded = false;  // true after Form_Load
 };

@@ -9,10 +9,10 @@ using StrProc::DecimalValue;
 
 namespace {
 
-// The number of the selected item of `list`, counted from 1; 0 when nothing is selected.
+// The number of the selected item of `combo`, counted from 1; 0 if nothing is selected.
 template <class Number>
-Number SelectedNumber(const Toolkit::ComboBox& list) {
-  return static_cast<Number>(list.ListIndex() + 1);
+Number SelectedNumber(const Toolkit::ComboBox& combo) {
+  return static_cast<Number>(combo.ListIndex() + 1);
 }
 
 frmMain::YearStatus StatusOfYear(std::u16string_view text) {
@@ -21,16 +21,16 @@ frmMain::YearStatus StatusOfYear(std::u16string_view text) {
   return text.find(u'-', 1) == text.npos ? frmMain::YearAccepted : frmMain::YearMinusInside;
 }
 
-// The number at the start of `text`, or the nearest that a field of the record holds; the check of
-// the date refuses that one.
+// The number at the start of `text`, or the largest that a field of the record holds, which the
+// check of the date refuses.
 std::int16_t FieldNumber(std::u16string_view text) {
   constexpr std::int32_t Most = std::numeric_limits<std::int16_t>::max();
   return static_cast<std::int16_t>(std::min(DecimalValue(text), Most));
 }
 
-// Takes an item such as "LYC-15" or "LA-11" apart: behind `prefix` characters the letter of the
+// Splits an item such as "LYC-15" or "LA-11": after `prefix` characters come the letter of the
 // type, a dash, and the number.
-void TakeApart(std::u16string_view item, std::size_t prefix, std::u16string& type,
+void SplitItem(std::u16string_view item, std::size_t prefix, std::u16string& type,
                std::int16_t& number) {
   type.assign(1, item[prefix]);
   number = FieldNumber(item.substr(prefix + 2));
@@ -51,7 +51,7 @@ void frmMain::ReadEuroDate(std::int16_t Index, EuroDate& date, std::int16_t& sta
 void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
   date.Valid = Karvel_Sorand::LksFalse;
   date.GMet = SelectedNumber<std::int16_t>(cboGMet);
-  // With no type selected this is the character before "A", which is the type of no cycle.
+  // With no type selected this is the character before "A", the type of no cycle.
   date.MetType.assign(1, static_cast<char16_t>(u'A' + cboMType.ListIndex()));
   const std::u16string text = txbMetNum.TrimText();
   if (text.empty()) {
@@ -70,8 +70,8 @@ void frmMain::ReadLksDate(Karvel_Sorand::LksDate& date, std::int16_t& status) {
     status = Karvel_Sorand::LksWrongYear;
     return;
   }
-  TakeApart(year, 2, date.YearType, date.YearInMet);
-  TakeApart(month, 1, date.MonthType, date.Month);
+  SplitItem(year, 2, date.YearType, date.YearInMet);
+  SplitItem(month, 1, date.MonthType, date.Month);
   date.Day = SelectedNumber<std::int16_t>(cboDay[Lunar]);
   status = CheckLksDate(date);
 }

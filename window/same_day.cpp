@@ -13,8 +13,8 @@ bool frmMain::CheckSameDay(std::int16_t mode) {
     }
     if (jdn[Gregorian] != jdn[Solar]) return false;
     // The status does not matter: a lunar date that does not exist still adds up to a day, and any
-    // other that is refused leaves Jdn at 0. So such a one passes for the day whose JDN is 0,
-    // 24 November -4713, which no lunar date names.
+    // other that is refused leaves Jdn at 0, so it passes for 24 November -4713. No lunar date is
+    // that day.
     Karvel_Sorand::LksDate lks{};
     std::int16_t status = 0;
     ReadLksDate(lks, status);

@@ -5,12 +5,12 @@ using StrProc::Decimal;
 
 namespace {
 
-// Selects the first item of `list` that reads `text`. Years and months are found by their text,
-// since the lists do not run evenly: "LYA-1" and "LYB-1" are both year 1.
-void SelectItem(Toolkit::ComboBox& list, const std::u16string& text) {
-  for (int index = 0; index < list.ListCount(); ++index) {
-    if (list.Item(index) == text) {
-      list.SetListIndex(index);
+// Selects the first item of `combo` with this text. Years and months are found by text, since their
+// indexes do not follow their numbers: "LYA-1" and "LYB-1" are both year 1.
+void SelectItem(Toolkit::ComboBox& combo, const std::u16string& text) {
+  for (int index = 0; index < combo.ListCount(); ++index) {
+    if (combo.Item(index) == text) {
+      combo.SetListIndex(index);
       return;
     }
   }
@@ -25,7 +25,7 @@ void frmMain::ShowLksDate(const Karvel_Sorand::LksDate& date) {
   SelectItem(cboYearInMet, u"LY" + date.YearType + u"-" + Decimal(date.YearInMet));
   SelectItem(cboMonth[Lunar], u"L" + date.MonthType + u"-" + Decimal(date.Month));
   cboDay[Lunar].SetListIndex(date.Day - 1);
-  // Last: the selections above have blanked it.
+  // Last, since the selections above clear it.
   lblDayOfWeek[Lunar].SetCaption(Karvel_Sorand::LunarWeekdayName(date.Day, date.MonthType));
 }
 

@@ -7,10 +7,11 @@ namespace {
 
 constexpr Toolkit::Color Yellow = 0xE8F0;  // red 240, green 232, blue 0
 
-void FillComboBox(Toolkit::ComboBox& list, const std::vector<std::u16string>& items, int selected) {
-  list.Clear();
-  for (const std::u16string& item : items) list.AddItem(item);
-  list.SetListIndex(selected);
+void FillComboBox(Toolkit::ComboBox& combo, const std::vector<std::u16string>& items,
+                  int selected) {
+  combo.Clear();
+  for (const std::u16string& item : items) combo.AddItem(item);
+  combo.SetListIndex(selected);
 }
 
 std::vector<std::u16string> Numbers(int last) {
@@ -19,7 +20,7 @@ std::vector<std::u16string> Numbers(int last) {
   return items;
 }
 
-// The pairs of month type and month number that there are. Month 12 can be of either type.
+// All pairs of month type and month number. Month 12 can be of either type.
 std::vector<std::u16string> LunarMonths() {
   std::vector<std::u16string> items;
   for (int i = 0; i <= 4; ++i) {
@@ -30,8 +31,8 @@ std::vector<std::u16string> LunarMonths() {
   return items;
 }
 
-// The pairs of year type and year number that there are. Years 2 to 18 have the same type in every
-// cycle; years 1 and 19 can be of two types each.
+// All pairs of year type and year number. Years 2 to 18 have the same type in every cycle; years 1
+// and 19 can be of two types each.
 std::vector<std::u16string> YearsOfMetCycle() {
   std::vector<std::u16string> items = {u"LYA-1", u"LYB-1"};
   for (int year = 2; year <= 18; ++year) {

@@ -10,7 +10,7 @@ std::optional<std::int32_t> frmMain::TargetOfStep(Step step) {
   if (step == Today) return DatePr2::TodayJdn();
   const std::optional<std::int32_t> from = ReadSelectedJdn();
   if (!from) return std::nullopt;
-  switch (step) {  // without a default: the compiler then names a step that is missing
+  switch (step) {  // without a default, so that the compiler names a missing step
     case Today:
       break;
     case Back:

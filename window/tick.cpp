@@ -1,10 +1,10 @@
 #include "main_window.h"
 
 void frmMain::Timer1_Timer() {
-  // Each state is worked out, then set once: toggling would lose the focus and flicker.
+  // Compute each state, then set it once: toggling would lose the focus and flicker.
   const auto enable = [this](Toolkit::CommandButton& command, bool enabled) {
-    // A disabled button loses the keyboard. Not to what comes next: after Clear and Copy that is
-    // Quit, where another Space would end the program.
+    // Disabling the focused button would lose the keyboard. The focus goes to Convert: after Clear
+    // and Copy the tab order reaches Quit, where another Space would end the program.
     if (!enabled && command.HasFocus()) cmdConvert.SetFocus();
     command.SetEnabled(enabled);
   };

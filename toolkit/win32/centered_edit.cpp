@@ -8,8 +8,8 @@ namespace Win32 {
 
 namespace {
 
-// An edit control writes at the top of its client area, so that is made as high as a line of text,
-// and what is then between it and the border belongs to the frame.
+// An edit control writes at the top of its client area. So that is made as high as a line of text;
+// what is between it and the border becomes part of the frame, and is painted with that.
 LRESULT CALLBACK CenteredEdit(HWND hwnd, UINT message, WPARAM wparam, LPARAM lparam, UINT_PTR,
                               DWORD_PTR) {
   const LRESULT result = DefSubclassProc(hwnd, message, wparam, lparam);

@@ -16,7 +16,7 @@ bool Open(HWND owner) {
   return true;
 }
 
-// The text in memory that the clipboard can own; null if there is none to be had.
+// The text in memory that the clipboard can own; null if there is no memory.
 HGLOBAL CopyForClipboard(std::u16string_view text) {
   const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, (text.size() + 1) * sizeof(char16_t));
   if (!memory) return nullptr;
@@ -32,7 +32,7 @@ HGLOBAL CopyForClipboard(std::u16string_view text) {
 void ReplaceClipboard(HWND owner, std::u16string_view text) {
   const HGLOBAL memory = CopyForClipboard(text);
   const bool is_open = memory && Open(owner);
-  // What it holds is the clipboard's own; what it does not take is still ours.
+  // The clipboard owns the memory once it has taken it.
   const bool is_taken = is_open && EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, memory);
   if (is_open) CloseClipboard();
   if (is_taken) return;

@@ -8,17 +8,17 @@ namespace Win32 {
 
 namespace {
 
-constexpr WPARAM ItemsShown = 12;                           // at most, in the open list
-constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // the item height of the closed list
+constexpr WPARAM MostVisibleItems = 12;
+constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // for CB_SETITEMHEIGHT
 
 NativeControl::Style StyleOf(const Toolkit::ControlTemplate& row) {
-  // A list of choice is drawn by us, with its text in the middle; screen readers still get the
-  // text.
-  const DWORD line = row.properties.editable
+  // Without an edit field it is owner-drawn, for a text in the middle. Screen readers still get the
+  // strings.
+  const DWORD kind = row.properties.editable
                          ? CBS_DROPDOWN | CBS_AUTOHSCROLL
                          : CBS_DROPDOWNLIST | CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
-  // Clips children as a label does: a list that is wider than its row is cut to it.
-  return {L"COMBOBOX", line | WS_VSCROLL | WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN};
+  // WS_CLIPCHILDREN for its region, as for a label.
+  return {L"COMBOBOX", kind | WS_VSCROLL | WS_TABSTOP | WS_GROUP | WS_CLIPCHILDREN};
 }
 
 }  // namespace
@@ -29,25 +29,25 @@ ComboBox::ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
     SetWindowTextW(hwnd_, WideLiteral(row.text));
     CenterText(GetWindow(hwnd_, GW_CHILD));
   }
-  Send(CB_SETMINVISIBLE, ItemsShown);
+  Send(CB_SETMINVISIBLE, MostVisibleItems);
 }
 
 void ComboBox::Place() {
-  // An open list that gets its size or its font may close and say nothing, keep the mouse, or take
-  // the item that is browsed: it is closed before, without a choice.
+  // Resizing an open combo box or changing its font may close it silently, keep the mouse capture,
+  // or accept the highlighted item: cancel it first.
   if (Send(CB_GETDROPPEDSTATE)) {
-    // Wine would give it the mouse when a button that is held on its arrow comes up.
+    // Wine would capture the mouse for it when a button held on its arrow is released.
     if (GetCapture() == hwnd_) Send(WM_LBUTTONUP);
     Send(CB_SHOWDROPDOWN, FALSE);
     accepted_ = false;
     CommitOrRevert();
   }
-  const LRESULT marks = Send(CB_GETEDITSEL);
+  const LRESULT selection = Send(CB_GETEDITSEL);
   NativeControl::Place();
   const int height = Pixels(row_.bounds.height, window_.Dpi());
   WidenForArrow(height);
-  // The closed one is as high as its font wants it; bring it to the height of the row. Twice, since
-  // Wine adds 2 to what it is told.
+  // Its height follows from its font; bring it to that of the row. Twice, since Wine adds 2 to the
+  // height that it is given.
   LRESULT text_height = Send(CB_GETITEMHEIGHT, SelectionField);
   for (int tries = 0; tries < 2; ++tries) {
     RECT closed;
@@ -62,27 +62,25 @@ void ComboBox::Place() {
     return;
   }
   FitText(GetWindow(hwnd_, GW_CHILD));
-  // A list that is resized or gets another font completes the text in its line to an item and marks
-  // it.
+  // Resizing or another font makes it complete the typed text to an item and select that.
   if (!open_) ShowChosen();
-  if (ContainsFocus()) Send(CB_SETEDITSEL, 0, marks);
+  if (ContainsFocus()) Send(CB_SETEDITSEL, 0, selection);
 }
 
-// The arrow is as wide as the scroll bars of the monitor. Where the window is drawn smaller than
-// that it would leave no room for the text: the list gets wider by what is too much, and ends, for
-// the eye and for the mouse, where it should.
+// The arrow follows the monitor's DPI and would crowd out the text of a window that is drawn
+// smaller: widen the control by the excess and clip it to its layout width.
 void ComboBox::WidenForArrow(int height) {
   COMBOBOXINFO parts = {};
   parts.cbSize = sizeof parts;
   GetComboBoxInfo(hwnd_, &parts);
   const int arrow = parts.rcButton.right - parts.rcButton.left;
-  const int too_much = arrow - MulDiv(arrow, window_.Dpi(), window_.MonitorDpi());
-  if (too_much <= 0) {
+  const int excess = arrow - MulDiv(arrow, window_.Dpi(), window_.MonitorDpi());
+  if (excess <= 0) {
     SetRegion(nullptr);
     return;
   }
   const int width = Pixels(row_.bounds.width, window_.Dpi());
-  SetWindowPos(hwnd_, nullptr, 0, 0, width + too_much, height,
+  SetWindowPos(hwnd_, nullptr, 0, 0, width + excess, height,
                SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   SetRegion(CreateRectRgn(0, 0, width, height));
 }
@@ -99,8 +97,7 @@ void ComboBox::Draw(const DRAWITEMSTRUCT& item) {
   if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
 }
 
-// A list that is browsed still holds the last choice; in a closed one the item counts that the line
-// reads.
+// Open: the last choice. Closed: the current item, if the edit field shows it.
 int ComboBox::ListIndex() const {
   if (open_ || chosen_ < 0) return chosen_;
   const auto now = static_cast<int>(Send(CB_GETCURSEL));
@@ -110,7 +107,7 @@ int ComboBox::ListIndex() const {
 void ComboBox::OnCommand(WORD code) {
   switch (code) {
     case CBN_DROPDOWN:
-      // What the line reads now counts afterwards: another program may have chosen or written it.
+      // What it shows is restored by Escape: another program may have selected or written it.
       chosen_ = ListIndex();
       if (chosen_ < 0) typed_text_ = TextOf(hwnd_);
       open_ = true;
@@ -120,16 +117,15 @@ void ComboBox::OnCommand(WORD code) {
       accepted_ = true;
       break;
     case CBN_SELENDCANCEL:
-      // A closed list says so, too, when it loses the focus.
+      // Also sent by a closed combo box that loses the focus.
       if (open_) accepted_ = false;
       break;
     case CBN_CLOSEUP:
       window_.Defer([this] { CommitOrRevert(); });
       break;
     case CBN_SELCHANGE:
-      // In an open list the arrows only browse. The order of the notifications differs between
-      // mouse, keys and versions of the platform, so what they come to is looked at when all are
-      // in.
+      // In an open list, arrows only highlight. The order of the notifications differs between
+      // mouse, keyboard and Windows versions: evaluate once all have arrived.
       if (!open_) window_.Defer([this] { CommitOrRevert(); });
       break;
     case CBN_EDITCHANGE:
@@ -144,8 +140,8 @@ void ComboBox::OnCommand(WORD code) {
   }
 }
 
-// What counts and what is shown become the same: the item that was chosen, or what stood there
-// before. An item can be chosen by the first letters of its name alone, typed into the open list.
+// Commits the chosen item or restores the previous one. An item can also be chosen by its first
+// letters, typed while the list is open.
 void ComboBox::CommitOrRevert() {
   open_ = Send(CB_GETDROPPEDSTATE) != 0;
   if (open_) return;
@@ -157,8 +153,8 @@ void ComboBox::CommitOrRevert() {
   if (is_choice) Toolkit::Raise(Click);
 }
 
-// A native list that is left without a choice may keep the item that was browsed last, or take back
-// its index and not its text; and it completes what was typed to an item. All of that goes.
+// A cancelled combo box may keep the highlighted item, or restore its index but not its text, and
+// it completes typed text: undo all that.
 void ComboBox::ShowChosen() {
   const int index = chosen_;
   const std::u16string text(index < 0 ? typed_text_ : Item(index));
@@ -166,12 +162,12 @@ void ComboBox::ShowChosen() {
     Send(CB_SETCURSEL, static_cast<WPARAM>(index));
   }
   if (index < 0 && TextOf(hwnd_) != text) SetWindowTextW(hwnd_, Wide(text));
-  // Last: should the platform report the line's new text as typed, the choice would be lost.
+  // Last: if the platform reports the new text as typed, OnCommand has forgotten the choice.
   chosen_ = index;
   if (!ContainsFocus()) ClearSelection();
 }
 
-// A line shows its marks also while it does not have the focus.
+// An edit field shows its selection even when it is not focused.
 void ComboBox::ClearSelection() {
   if (!row_.properties.editable) return;
   const WORD end = HIWORD(Send(CB_GETEDITSEL));

@@ -1,4 +1,4 @@
-// How the controls of the rows are made, and those that need only a few lines of their own.
+// Makes the controls, and implements those that need only a few lines.
 #include "controls.h"
 
 namespace Win32 {
@@ -24,8 +24,7 @@ std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::Contro
 Frame::Frame(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : NativeControl(window, row, {L"BUTTON", BS_GROUPBOX | WS_GROUP}) {}
 
-// The class draws with the region of the window around it, not its own, unless the style clips
-// children.
+// Without WS_CLIPCHILDREN the class draws with its parent's region and ignores its own.
 Label::Label(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::Label(row.text),
       NativeControl(window, row,

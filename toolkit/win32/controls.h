@@ -56,9 +56,9 @@ class ComboBox : public Toolkit::ComboBox, public NativeControl {
   void ClearSelection();
 
   int chosen_ = -1;            // the last choice, whether the user's or the program's
-  bool open_ = false;          // the list is dropped down, or what that came to has not settled
-  bool accepted_ = true;       // the list was closed with a choice, not left with Escape
-  std::u16string typed_text_;  // what the line reads while nothing is chosen
+  bool open_ = false;          // dropped down, or closed and not yet committed or reverted
+  bool accepted_ = true;       // closed with a choice, not cancelled
+  std::u16string typed_text_;  // in the edit field while nothing is chosen
 };
 
 class OptionButton : public Toolkit::OptionButton, public NativeControl {

@@ -9,20 +9,20 @@ namespace Win32 {
 
 namespace {
 
-// Bitmaps have a few sizes only. Where the window is not drawn at 96 dpi, the outlines of the same
-// letters stand in for them.
+// Bitmap fonts have only a few sizes. At other DPIs the outline font of the same design replaces
+// them.
 const char16_t* FaceAt(std::u16string_view face, int dpi) {
-  constexpr int DpiOfBitmaps = 96;
+  constexpr int DpiOfBitmaps = USER_DEFAULT_SCREEN_DPI;
   return face == u"MS Sans Serif" && dpi != DpiOfBitmaps ? u"Microsoft Sans Serif" : face.data();
 }
 
-// Screen readers take the name of a text box or a list from the text that stands before it. No one
-// else sees this one: it is not visible, and it has no number of its own.
+// Screen readers take the name of a text box or a combo box from the STATIC control before it. This
+// one is invisible and has no ID.
 void CreateAccessibleName(HWND window, std::u16string_view name) {
-  constexpr INT_PTR NoNumber = 0xFFFF;
+  constexpr INT_PTR NoId = 0xFFFF;
   RequireWindow(CreateWindowExW(0, L"STATIC", WideLiteral(name), WS_CHILD | SS_NOPREFIX, 0, 0, 0, 0,
-                                window, reinterpret_cast<HMENU>(NoNumber),
-                                GetModuleHandleW(nullptr), nullptr));
+                                window, reinterpret_cast<HMENU>(NoId), GetModuleHandleW(nullptr),
+                                nullptr));
 }
 
 }  // namespace
@@ -35,7 +35,7 @@ HWND RequireWindow(HWND window) {
 
 int DpiOf(HWND window) {
   // Windows 7 and 8 have one DPI for everything. Windows 8.1 has one for each monitor: this is that
-  // of the main one when the user signed in, and WM_DPICHANGED tells of any other.
+  // of the primary monitor at sign-in, and WM_DPICHANGED reports any other.
   static const auto get_dpi = SystemFunction<UINT(WINAPI*)(HWND)>(L"user32.dll", "GetDpiForWindow");
   if (get_dpi) return static_cast<int>(get_dpi(window));
   const HDC screen = GetDC(nullptr);
@@ -59,7 +59,7 @@ HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi) {
 
 std::u16string TextOf(HWND window) {
   std::u16string text(static_cast<std::size_t>(GetWindowTextLengthW(window)), u'\0');
-  // The length without the zero, which may be less than was announced.
+  // May be shorter than announced.
   const int length = GetWindowTextW(window, reinterpret_cast<wchar_t*>(text.data()),
                                     static_cast<int>(text.size()) + 1);
   text.resize(static_cast<std::size_t>(length));
@@ -105,10 +105,10 @@ void NativeControl::Place() {
 }
 
 void NativeControl::SetRegion(HRGN region) {
-  // It takes its time, which would show in the start-up.
+  // SetWindowRgn is slow enough to show at start-up.
   if (!region && !has_region_) return;
   has_region_ = region != nullptr;
-  SetWindowRgn(hwnd_, region, FALSE);  // which owns it from now on
+  SetWindowRgn(hwnd_, region, FALSE);  // takes ownership
 }
 
 void NativeControl::UseFont(bool bold) {

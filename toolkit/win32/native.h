@@ -1,5 +1,4 @@
-// What all the controls have in common: the native window behind each, how it is made, where it
-// stands and which font it has.
+// What all controls have in common: the native window of each, its creation, bounds and font.
 #pragma once
 
 #include <windows.h>
@@ -26,8 +25,8 @@ inline int Pixels(int twips, int dpi) {
   return MulDiv(twips, dpi, 1440);
 }
 
-// A function of a library in the system's own folder; null where it is missing, as on older
-// versions of Windows. A library of that name beside the program is not looked at.
+// A function of a library in the system's folder, never of one beside the program; null where it is
+// missing, as on older versions of Windows.
 template <class Function>
 Function SystemFunction(const wchar_t* library, const char* name) {
   const HMODULE loaded = LoadLibraryExW(library, nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
@@ -35,14 +34,13 @@ Function SystemFunction(const wchar_t* library, const char* name) {
                 : nullptr;
 }
 
-// Gives back the window that was to be made. If it could not be made there is no program: it says
-// so and ends with exit code 1.
+// Returns `window`; if creation failed, reports it and exits with code 1.
 HWND RequireWindow(HWND window);
 
 // The dots per inch that the window is drawn with.
 int DpiOf(HWND window);
 
-// The font for a control at `dpi`; made once, kept for the life of the program.
+// The font for a control at `dpi`; created once, kept for the life of the program.
 HFONT FontAt(const Toolkit::Font& font, bool bold, int dpi);
 
 // The text of a window.
@@ -67,19 +65,18 @@ class NativeControl {
 
   HWND Hwnd() const { return hwnd_; }
   Toolkit::Kind Kind() const { return row_.kind; }
-  bool ContainsFocus() const;  // also when a part of it has the focus, such as the line of a list
+  bool ContainsFocus() const;  // also true for a child, such as the edit field of a combo box
 
-  RECT LayoutBounds() const;    // where its row has the control, in pixels of the client area
-  virtual void Place();         // puts it there, and gives it its font
-  void SetRegion(HRGN region);  // draws nothing outside it; null takes the cut back
+  RECT LayoutBounds() const;    // those of its row, in pixels of the client area
+  virtual void Place();         // moves it there and sets its font
+  void SetRegion(HRGN region);  // draws nothing outside; null removes the region
 
   virtual void OnCommand(WORD) {}  // a notification that came with WM_COMMAND
   virtual void Draw(const DRAWITEMSTRUCT&) {}
 
  protected:
   void UseFont(bool bold);
-  // Draws nothing until the message in hand is done with, and then once, however many changes there
-  // are.
+  // Draws nothing until the message in hand is done, and then once, however many changes there are.
   void SuspendRedraw();
   LRESULT Send(UINT message, WPARAM wparam = 0, LPARAM lparam = 0) const {
     return SendMessageW(hwnd_, message, wparam, lparam);

@@ -17,8 +17,8 @@ constexpr DWORD WindowStyle = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIM
 constexpr COLORREF Black = RGB(0, 0, 0);
 constexpr UINT_PTR TimerId = 1;
 
-// A brush for a ground; made once, kept for the life of the program. It is a solid one, since a
-// themed button may fill its ground through another device context than the one that it asks for.
+// A background brush; created once, kept for the life of the program. It must be a real brush: a
+// themed button may use it with another device context than that of the message.
 HBRUSH BrushOf(Toolkit::Color color) {
   static std::map<Toolkit::Color, HBRUSH> brushes;
   HBRUSH& made = brushes[color];
@@ -31,8 +31,8 @@ bool IsPushButton(HWND window) {
   return (code & (DLGC_UNDEFPUSHBUTTON | DLGC_DEFPUSHBUTTON)) != 0;
 }
 
-// Sees what goes to the window and to a message box before the dialog manager does. Enter that is
-// held on repeats itself; it must not press the button, OK included, to which it has led.
+// Sees the messages of the window and of message boxes before the dialog manager does. The repeats
+// of an Enter that is held must not press the button, OK included, that it has led to.
 LRESULT CALLBACK FilterEnterRepeats(int code, WPARAM wparam, LPARAM lparam) {
   const auto& message = *reinterpret_cast<const MSG*>(lparam);
   if (code == MSGF_DIALOGBOX && message.message == WM_KEYDOWN && message.wParam == VK_RETURN &&
@@ -46,7 +46,7 @@ LRESULT CALLBACK FilterEnterRepeats(int code, WPARAM wparam, LPARAM lparam) {
 
 NativeWindow::NativeWindow(int client_width, int client_height)
     : client_width_(client_width), client_height_(client_height) {
-  // Loads the library whose classes the manifest asks for in place of the system's own.
+  // Loads the version of the common controls that the manifest asks for.
   constexpr INITCOMMONCONTROLSEX Classes = {sizeof Classes, ICC_STANDARD_CLASSES};
   InitCommonControlsEx(&Classes);
   WNDCLASSEXW window_class = {};
@@ -59,8 +59,8 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   window_class.lpszClassName = WindowClass;
   RegisterClassExW(&window_class);
 
-  // A dialog comes from a template; this one holds no controls. Behind the header follow, as texts,
-  // the menu (none), the class and the caption (empty).
+  // A dialog is made from a template, here without controls. After the header come, as texts, the
+  // menu (none), the class and the caption (empty).
   struct alignas(DWORD) {
     DLGTEMPLATE header;
     WORD menu;
@@ -148,19 +148,18 @@ HWND NativeWindow::Focus() const {
 void NativeWindow::SetFocusTo(HWND control) {
   if (Focus() == control) return;
   last_focus_ = control;
-  // The dialog manager's own way of setting the focus, so that the right button has the frame of
-  // the default one.
+  // Through the dialog manager, so that the right button gets the default frame.
   if (IsActive()) {
     SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), TRUE);
   }
 }
 
-// The wheel goes to the window under the pointer. A list that does not have the focus must not take
-// it: the choice would change, and the focus move, while the user is elsewhere.
+// The wheel goes to the window under the pointer. A combo box that is not focused must not take it:
+// its choice would change, and the focus move, while the user works elsewhere.
 bool NativeWindow::IsWheelForUnfocusedCombo(const MSG& message) const {
   if (message.message != WM_MOUSEWHEEL) return false;
   const NativeControl* control = ControlOf(message.hwnd);
-  if (!control) control = ControlOf(GetParent(message.hwnd));  // of the line in a list
+  if (!control) control = ControlOf(GetParent(message.hwnd));  // of an edit field
   return control && control->Kind() == Toolkit::Kind::ComboBox && !control->ContainsFocus();
 }
 
@@ -178,8 +177,8 @@ LRESULT CALLBACK NativeWindow::WndProc(HWND hwnd, UINT message, WPARAM wparam, L
 LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
   switch (message) {
     case WM_ACTIVATE:
-      // The dialog manager would give the focus back to a control that may have turned disabled in
-      // the meantime; the focus is then on nothing. What else it does is done here, too.
+      // The dialog manager would restore the focus to a control that was disabled meanwhile,
+      // leaving none focused. Its other work is done here as well.
       if (LOWORD(wparam) != WA_INACTIVE) {
         Activated();
       } else {
@@ -191,10 +190,10 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
       if (last_focus_) RestoreFocus();
       return 0;
     case WM_SIZE:
-      // There is no button for it, but a shortcut or another program can ask for it.
+      // There is no button for it, but a shortcut or another program can maximise the window.
       if (wparam == SIZE_MAXIMIZED) ShowWindow(hwnd_, SW_RESTORE);
       if (wparam == SIZE_RESTORED) Fit();
-      // A minimised window could not give the focus to a control.
+      // While minimised it could not focus a control.
       if (wparam == SIZE_RESTORED && IsActive() && !IsChild(hwnd_, GetFocus())) RestoreFocus();
       break;
     case WM_GETMINMAXINFO:
@@ -215,7 +214,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
     case WM_DPICHANGED:
       HandleDpiChange(LOWORD(wparam), *reinterpret_cast<const RECT*>(lparam));
       return 0;
-    case WM_SETTINGCHANGE:  // the work area among others
+    case WM_SETTINGCHANGE:  // also for the work area
       Fit();
       if (wparam != SPI_SETNONCLIENTMETRICS && wparam != SPI_SETHIGHCONTRAST) break;
       [[fallthrough]];
@@ -273,7 +272,7 @@ void NativeWindow::RestoreFocus() {
   FrameDefaultButton(last_focus_);
 }
 
-// Gives this button alone the frame of the default one; none gets it where this is no button.
+// Gives only this button the default frame; no button if it is none.
 void NativeWindow::FrameDefaultButton(HWND button) {
   for (const NativeControl* const control : controls_) {
     if (control->Kind() != Toolkit::Kind::CommandButton) continue;
@@ -284,22 +283,21 @@ void NativeWindow::FrameDefaultButton(HWND button) {
   }
 }
 
-// The program's icon on the task bar and in the title bar, in their sizes at the monitor's scale.
+// Sets the icons of the task bar and the title bar, in their sizes at the monitor's DPI.
 void NativeWindow::ShowIcons() {
-  for (const auto& [place, size] : {std::pair{ICON_BIG, 32}, std::pair{ICON_SMALL, 16}}) {
-    const int pixels = MulDiv(size, monitor_dpi_, 96);
+  for (const auto& [kind, size] : {std::pair{ICON_BIG, 32}, std::pair{ICON_SMALL, 16}}) {
+    const int pixels = MulDiv(size, monitor_dpi_, USER_DEFAULT_SCREEN_DPI);
     const HANDLE icon =
         LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(1), IMAGE_ICON, pixels, pixels, 0);
     const LRESULT before =
-        SendMessageW(hwnd_, WM_SETICON, static_cast<WPARAM>(place), reinterpret_cast<LPARAM>(icon));
+        SendMessageW(hwnd_, WM_SETICON, static_cast<WPARAM>(kind), reinterpret_cast<LPARAM>(icon));
     DestroyIcon(reinterpret_cast<HICON>(before));
   }
 }
 
 void NativeWindow::OnCommand(WORD id, WORD code, HWND sender) {
-  // IDOK is Enter while no button has the frame of the default one, as after a click with the
-  // mouse: it presses the focused button. IDCANCEL, Escape, comes without a sender and does
-  // nothing.
+  // IDOK is Enter while no button has the default frame, as after a click with the mouse: it
+  // presses the focused button. IDCANCEL, Escape, has no sender and does nothing.
   NativeControl* const control = ControlOf(id == IDOK ? Focus() : sender);
   if (!control || (id == IDOK && control->Kind() != Toolkit::Kind::CommandButton)) return;
   control->OnCommand(code);
@@ -308,10 +306,10 @@ void NativeWindow::OnCommand(WORD id, WORD code, HWND sender) {
 HBRUSH NativeWindow::BackgroundBrush(HDC dc, HWND hwnd) const {
   const NativeControl* const control = ControlOf(hwnd);
   const auto* colored = dynamic_cast<const Toolkit::Colored*>(control);
-  // A themed button lets the ground behind it show at its edge.
+  // A themed button lets the background show at its edge.
   if (control && control->Kind() == Toolkit::Kind::CommandButton) colored = this;
   if (!colored || colored->BackColor() == DefaultColor) return nullptr;
-  // Black under every theme: the yellow does not change with it.
+  // Black, since the yellow is the same under every theme.
   SetTextColor(dc, Black);
   SetBkColor(dc, static_cast<COLORREF>(colored->BackColor()));
   return BrushOf(colored->BackColor());

@@ -1,5 +1,5 @@
-// The program's one window. It is a dialog of a class of its own, so that the platform's dialog
-// manager does the keyboard navigation.
+// The program's one window. It is a dialog of its own class, so that the dialog manager does the
+// keyboard navigation.
 #pragma once
 
 #include "native.h"
@@ -29,8 +29,8 @@ class NativeWindow : public Toolkit::Window {
   // False while a message box is open: the command that shows it is not done yet.
   bool IsEnabled() const { return IsWindowEnabled(hwnd_) != FALSE; }
 
-  // Runs `step` once the message in hand is done with, in the order of the calls; at once if the
-  // queue of the thread takes no more messages.
+  // Runs `step` once the message in hand is done, in the order of the calls; at once if the message
+  // queue is full.
   void Defer(Toolkit::Event step);
 
   // The focused control, or the one that gets the focus when the window is active again.
@@ -56,21 +56,21 @@ class NativeWindow : public Toolkit::Window {
   void ShowIcons();
   HBRUSH BackgroundBrush(HDC dc, HWND hwnd) const;
 
-  // Where the window is and its controls are in it: placement.cpp.
+  // Size and position, of the window and of its controls: placement.cpp.
   void Center();
   SIZE FrameSize() const;
   void Fit();
   void Refit();
-  void HandleDpiChange(int dpi, const RECT& place);
+  void HandleDpiChange(int dpi, const RECT& bounds);
   void PlaceControls();
   void ClipAroundFields();
 
   int client_width_, client_height_;  // twips
   HWND hwnd_ = nullptr;
-  int dpi_ = 96;
-  int monitor_dpi_ = 96;
-  HMONITOR fitted_monitor_ = nullptr;  // where the window was last fitted, and
-  RECT fitted_area_ = {};              // the work area there; both empty when it must be fitted
+  int dpi_ = USER_DEFAULT_SCREEN_DPI;
+  int monitor_dpi_ = USER_DEFAULT_SCREEN_DPI;
+  HMONITOR fitted_monitor_ = nullptr;  // where the window was last fitted
+  RECT fitted_area_ = {};              // the work area there; empty if the window must be fitted
   bool is_dragged_ = false;
   std::vector<NativeControl*> controls_;
   std::vector<Toolkit::Event> deferred_;

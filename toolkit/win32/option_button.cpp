@@ -2,7 +2,8 @@
 
 namespace Win32 {
 
-// The arrow keys move within a group, which begins at its first button. Clipped as a label is.
+// Arrow keys move within a group, which WS_GROUP begins. WS_CLIPCHILDREN for its region, as for a
+// label.
 OptionButton::OptionButton(NativeWindow& window, const Toolkit::ControlTemplate& row)
     : Toolkit::OptionButton(window),
       NativeControl(window, row,
@@ -15,8 +16,8 @@ void OptionButton::Place() {
   FollowTheme();
 }
 
-// Themed captions have the colour of the theme. In high contrast that can be white, which cannot be
-// read on the yellow; without the theme the caption is black.
+// A themed caption has the colour of the theme. In high contrast that can be white, which is
+// illegible on the yellow; without the theme the caption is black.
 void OptionButton::FollowTheme() {
   HIGHCONTRASTW contrast = {};
   contrast.cbSize = sizeof contrast;
@@ -29,8 +30,8 @@ void OptionButton::FollowTheme() {
   if (set_theme) set_theme(hwnd_, plain ? L"" : nullptr, plain ? L"" : nullptr);
 }
 
-// A button that gets the focus may say that it was clicked before the change of focus is done with,
-// in which the focus must not move on; and some say so without being chosen.
+// A focused button may report a click before the change of focus is done, when the focus must not
+// move on; and Windows reports one even for an unchecked button.
 void OptionButton::OnCommand(WORD code) {
   if (code != BN_CLICKED) return;
   window_.Defer([this] {

@@ -1,4 +1,4 @@
-// Where the window stands, how large it is drawn, and where its controls stand in it.
+// Where the window is, how large it is drawn, and where its controls are.
 #include <algorithm>
 
 #include "native_window.h"
@@ -7,7 +7,7 @@ namespace Win32 {
 
 namespace {
 
-constexpr int MinDpi = 60;  // what is drawn smaller cannot be read
+constexpr int MinDpi = 60;  // smaller is illegible
 
 HMONITOR MonitorOf(HWND window) {
   return MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST);
@@ -20,8 +20,8 @@ RECT WorkArea(HMONITOR monitor) {
   return info.rcWork;
 }
 
-// The place next to `wanted` where something of that length lies between the two ends. If it is too
-// long it begins at the first of them, where the title bar is.
+// The position nearest `wanted` that keeps `length` inside; `first` if it is too long, where the
+// title bar is.
 int ClampPosition(LONG first, LONG last, int length, LONG wanted) {
   return std::max(first, std::min(wanted, last - length));
 }
@@ -40,7 +40,7 @@ void NativeWindow::Center() {
                0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-// What the frame adds to the client area: the difference is the same for a window of any size.
+// What the frame adds to the client area, which is the same for a window of any size.
 SIZE NativeWindow::FrameSize() const {
   constexpr LONG AnySize = 10000;
   RECT client = {0, 0, AnySize, AnySize};
@@ -67,7 +67,7 @@ void NativeWindow::Fit() {
   };
   int dpi = monitor_dpi_;
   while (dpi > MinDpi && !fits(dpi)) --dpi;
-  // The user may leave it across the edge of two monitors.
+  // The user may leave the window across the edge of two monitors.
   if (has_moved && dpi == dpi_ && fits(dpi)) return;
   dpi_ = dpi;
   RECT outer;
@@ -78,8 +78,8 @@ void NativeWindow::Fit() {
   PlaceControls();
 }
 
-// After a change of the theme or the DPI: at once, and again when the native controls, which may
-// then measure themselves again, have heard of it.
+// Refits after a change of theme or DPI, and places the controls again once they have heard of it:
+// they may measure themselves again.
 void NativeWindow::Refit() {
   fitted_monitor_ = nullptr;
   fitted_area_ = {};
@@ -87,14 +87,14 @@ void NativeWindow::Refit() {
   Defer([this] { PlaceControls(); });
 }
 
-void NativeWindow::HandleDpiChange(int dpi, const RECT& place) {
-  // A dragged window is fitted when it is let go. Until then it grows or shrinks with the place.
+void NativeWindow::HandleDpiChange(int dpi, const RECT& bounds) {
+  // A dragged window is fitted when it is released. Until then it grows or shrinks with its bounds.
   dpi_ = MulDiv(dpi_, dpi, monitor_dpi_);
   monitor_dpi_ = dpi;
   ShowIcons();
-  // The whole place at once: a window that is resized where it was may change its monitor again.
-  SetWindowPos(hwnd_, nullptr, place.left, place.top, place.right - place.left,
-               place.bottom - place.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  // Position and size at once: resized where it was, the window may change its monitor again.
+  SetWindowPos(hwnd_, nullptr, bounds.left, bounds.top, bounds.right - bounds.left,
+               bounds.bottom - bounds.top, SWP_NOZORDER | SWP_NOACTIVATE);
   if (is_dragged_) PlaceControls();
   Refit();
 }
@@ -105,27 +105,27 @@ void NativeWindow::PlaceControls() {
   RedrawWindow(hwnd_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
 }
 
-// Some labels and options reach a few pixels into a field beside them, and would paint their ground
-// over its border: they are cut back to where they do not.
+// Some labels and option buttons reach a few pixels into the field beside them and would paint
+// their background over its border.
 void NativeWindow::ClipAroundFields() {
-  for (NativeControl* const ground : controls_) {
-    if (ground->Kind() != Toolkit::Kind::Label && ground->Kind() != Toolkit::Kind::OptionButton)
+  for (NativeControl* const label : controls_) {
+    if (label->Kind() != Toolkit::Kind::Label && label->Kind() != Toolkit::Kind::OptionButton)
       continue;
-    const RECT rect = ground->LayoutBounds();
+    const RECT rect = label->LayoutBounds();
     HRGN region = nullptr;
     for (const NativeControl* const field : controls_) {
       if (field->Kind() != Toolkit::Kind::TextBox && field->Kind() != Toolkit::Kind::ComboBox)
         continue;
-      const RECT cut = field->LayoutBounds();
+      const RECT field_rect = field->LayoutBounds();
       RECT common;
-      if (!IntersectRect(&common, &rect, &cut)) continue;
+      if (!IntersectRect(&common, &rect, &field_rect)) continue;
       if (!region) region = CreateRectRgnIndirect(&rect);
-      const HRGN taken = CreateRectRgnIndirect(&cut);
+      const HRGN taken = CreateRectRgnIndirect(&field_rect);
       CombineRgn(region, region, taken, RGN_DIFF);
       DeleteObject(taken);
     }
     if (region) OffsetRgn(region, -rect.left, -rect.top);
-    ground->SetRegion(region);
+    label->SetRegion(region);
   }
 }
 

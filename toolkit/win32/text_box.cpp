@@ -8,7 +8,7 @@ namespace Win32 {
 
 namespace {
 
-constexpr WPARAM NoLimit = 0x7FFFFFFE;  // the most that the native control takes
+constexpr WPARAM NoLimit = 0x7FFFFFFE;  // the largest that an edit control takes
 constexpr WPARAM CtrlA = 1;             // the character that Ctrl+A types
 
 NativeControl::Style StyleOf(const Toolkit::ControlTemplate& row) {
@@ -51,7 +51,7 @@ LRESULT CALLBACK TextBox::WndProc(HWND hwnd, UINT message, WPARAM wparam, LPARAM
   return is_done ? result : DefSubclassProc(hwnd, message, wparam, lparam);
 }
 
-// Tells whether the message has been dealt with.
+// Returns whether the message is done.
 bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& result) {
   switch (message) {
     case WM_GETDLGCODE:
@@ -66,7 +66,7 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       return true;
     case WM_KEYUP:
     case WM_SYSKEYUP:
-      // Another program can send keys to the box behind a message box.
+      // Another program can send keys while a message box is open.
       if (window_.IsEnabled()) NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
       return false;
     case WM_KILLFOCUS:
@@ -75,7 +75,7 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
     case WM_CHAR:
       if (IsTypedTab(wparam)) return true;
       if (wparam == CtrlA) SetSelection({0, -1});
-      // A box of one line would beep at Enter, with Ctrl or without.
+      // A single-line edit control would beep at Enter, with Ctrl or without.
       return wparam == CtrlA ||
              ((wparam == u'\r' || wparam == u'\n') && !row_.properties.multiline);
     case WM_SYSCHAR:  // Alt+Enter, at which the system would beep
@@ -85,23 +85,23 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
   }
 }
 
-// Ctrl+Tab, as the key or as its character, which have the same number.
+// Ctrl+Tab, as a key or as a character: both have the same code.
 bool TextBox::IsTypedTab(WPARAM key) const {
   return key == VK_TAB && IsDown(VK_CONTROL) && row_.properties.multiline;
 }
 
-// What the dialog manager leaves to the box. The native answer is not asked for: a pane that knows
-// that it stands in a dialog closes that at Escape.
+// What the dialog manager leaves to the text box. Not forwarded: a multiline edit control that
+// knows that it is in a dialog closes the dialog at Escape.
 LRESULT TextBox::DialogCode(const MSG* key) const {
   const bool key_down = key && key->message == WM_KEYDOWN;
   if (row_.properties.multiline) {
-    // Tab leaves the pane, Ctrl+Tab types a tab. Without DLGC_HASSETSEL: coming in by Tab must not
-    // select the whole log, which the next key would replace.
+    // Tab leaves the pane, Ctrl+Tab types a tab. Without DLGC_HASSETSEL, since Tab into the pane
+    // must not select the whole log, which the next key would replace.
     const bool leaves =
         key_down && (key->wParam == VK_ESCAPE || (key->wParam == VK_TAB && !IsDown(VK_CONTROL)));
     return DLGC_WANTCHARS | DLGC_WANTARROWS | (leaves ? 0 : DLGC_WANTALLKEYS);
   }
-  // Enter counts when it comes up, and for that the box must have seen it go down.
+  // Enter takes effect on key-up, so the text box must see the key-down.
   const bool enter = key_down && key->wParam == VK_RETURN;
   return DLGC_WANTCHARS | DLGC_WANTARROWS | DLGC_HASSETSEL | (enter ? DLGC_WANTALLKEYS : 0);
 }

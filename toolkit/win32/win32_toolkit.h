@@ -1,4 +1,4 @@
-// The toolkit on the Win32 API, for a program that need not know what that is.
+// The toolkit on the Win32 API, for callers that do not include <windows.h>.
 #pragma once
 
 #include <memory>
@@ -8,12 +8,12 @@
 
 namespace Win32 {
 
-// By these a program finds the window and its controls from outside. The controls are numbered as
-// the rows of the layout; 1 and 2 are OK and Cancel to a dialog, so they begin higher.
+// By these another program finds the window and its controls. The IDs follow the rows of the
+// layout; 1 and 2 are OK and Cancel of a dialog, so they begin higher.
 inline constexpr wchar_t WindowClass[] = L"TandemWindow";
 inline constexpr int FirstControlId = 100;
 
-// A window whose client area has this size in twips. It is not on the screen yet. One a program.
+// The program's one window, with a client area of this size in twips, not on the screen yet.
 std::unique_ptr<Toolkit::Window> NewWindow(int client_width, int client_height);
 
 // Today's local date as a text of the form mm-dd-yyyy.
