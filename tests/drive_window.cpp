@@ -10,32 +10,32 @@ using namespace Driver;
 using Toolkit::Kind;
 using Win32::Pixels;
 
-// That a key-down repeats itself, as the system says it.
+// The state of a key-down that repeats itself.
 constexpr LPARAM Held = LPARAM{KF_REPEAT} << 16 | 1;
 
-// Every control where its row has it at this scale, and behind its name.
-void ExpectPlaces(const RealWindow& desk, int dpi) {
+// Expects every control within the bounds of its row at this DPI, and after its accessible name.
+void ExpectLayout(const RealWindow& driver, int dpi) {
   for (const Toolkit::ControlTemplate& row : Layout::Rows) {
-    RECT place;
-    GetWindowRect(desk.Control(NameOf(row)), &place);
-    MapWindowPoints(nullptr, desk.window, reinterpret_cast<POINT*>(&place), 2);
+    RECT actual;
+    GetWindowRect(driver.Control(NameOf(row)), &actual);
+    MapWindowPoints(nullptr, driver.window, reinterpret_cast<POINT*>(&actual), 2);
     const Toolkit::Bounds bounds = BoundsOf(row);
     const LONG left = Pixels(bounds.left, dpi);
     const LONG top = Pixels(bounds.top, dpi);
-    // A list may be wider than what is shown of it.
-    if (row.kind == Kind::ComboBox) place.right = left + Pixels(bounds.width, dpi);
+    // A combo box may be wider than what is visible of it.
+    if (row.kind == Kind::ComboBox) actual.right = left + Pixels(bounds.width, dpi);
     EXPECT_EQ(
-        (std::array{place.left, place.top, place.right, place.bottom}),
+        (std::array{actual.left, actual.top, actual.right, actual.bottom}),
         (std::array{left, top, left + Pixels(bounds.width, dpi), top + Pixels(bounds.height, dpi)}))
         << testing::PrintToString(NameOf(row));
     if (row.kind != Kind::TextBox && row.kind != Kind::ComboBox) continue;
-    // A screen reader takes the name from the text before it, seen or not.
-    const HWND name = GetWindow(desk.Control(NameOf(row)), GW_HWNDPREV);
+    // Screen readers take the name from the STATIC control before it.
+    const HWND name = GetWindow(driver.Control(NameOf(row)), GW_HWNDPREV);
     EXPECT_EQ(TextOf(name), Text(row.accessible_name)) << testing::PrintToString(NameOf(row));
   }
 }
 
-// Also on a desktop that is too small for it: then it is drawn as large as it can be there.
+// Also on a desktop that is too small: then the window is drawn as large as it fits.
 TEST_F(RealWindow, MatchesTheLayout) {
   RECT outer, client, work;
   GetWindowRect(window, &outer);
@@ -43,7 +43,7 @@ TEST_F(RealWindow, MatchesTheLayout) {
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
   const UINT monitor_dpi = GetDpiForWindow(window);
   std::printf("The desktop has %u dpi.\n", monitor_dpi);
-  char expected[8];  // by the script that has made the desktop, if there is one
+  char expected[8];  // by the script that set up the desktop, if there is one
   if (GetEnvironmentVariableA("TANDEM_TEST_DPI", expected, sizeof expected)) {
     EXPECT_EQ(std::to_string(monitor_dpi), expected);
   }
@@ -64,16 +64,16 @@ TEST_F(RealWindow, MatchesTheLayout) {
   EXPECT_EQ(Ask(u"txbYearCE0", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbYearCE1", EM_GETLIMITTEXT), 5);
   EXPECT_EQ(Ask(u"txbMetNum", EM_GETLIMITTEXT), 3);
-  ExpectPlaces(*this, dpi);
+  ExpectLayout(*this, dpi);
   constexpr COLORREF Yellow = RGB(240, 232, 0);
   EXPECT_EVENTUALLY(Pixel(u"cmdConvert", -5), Yellow);
-  // Fields beside which a label or an option button reaches over the border.
+  // A label or an option button reaches over the border of these fields.
   for (const Text field : {u"cboMonth1", u"cboMType", u"txbMetNum"}) {
     EXPECT_NE(Pixel(field, 0), Yellow) << testing::PrintToString(field);
   }
-  // A list that is wider on a small desktop is cut to its bounds.
+  // On a small desktop a combo box is wider, and cut to its bounds.
   EXPECT_EQ(Pixel(u"cboDay2", Pixels(600, dpi) + 2), Yellow);
-  int icon = 0;  // which has the yellow, in the title bar
+  int icon = 0;  // its yellow points in the title bar
   for (int x = outer.left; x < outer.left + 30; ++x) {
     icon += ScreenPixel(x, outer.top + GetSystemMetrics(SM_CYCAPTION) / 2) == Yellow;
   }
@@ -83,7 +83,7 @@ TEST_F(RealWindow, MatchesTheLayout) {
   EXPECT_EQ(Ask(u"cboDay0", CB_GETCURSEL), now.wDay - 1);
 }
 
-// Texts without descenders, but for the weekdays: these share their top with the month.
+// The texts have no descenders, except the weekdays, whose top is compared.
 TEST_F(RealWindow, TextsAreInTheMiddleOfTheirFields) {
   for (const Text month : {u"cboMonth0", u"cboMonth1"}) {
     SendMessageW(Control(month), CB_SETCURSEL, 10, 0);  // November
@@ -125,7 +125,7 @@ TEST_F(RealWindow, TabGoesRoundAllStops) {
 }
 
 TEST_F(RealWindow, EnterConvertsAndEscapeDoesNothing) {
-  GoTo(u"txbYearCE0");  // where the first key takes the place of the year
+  GoTo(u"txbYearCE0");  // the first key replaces the year
   Press({'2', '0', '1', '2', VK_ESCAPE, VK_RETURN});
   EXPECT_EVENTUALLY(Read(u"txbYearCE1"), u"2012");
   const Text pane = Read(u"txbOutput");
@@ -142,24 +142,24 @@ TEST_F(RealWindow, EnterConvertsAndEscapeDoesNothing) {
 }
 
 TEST_F(RealWindow, EnterAfterAClickPressesTheFocusedButton) {
-  Fill(u"txbYearCE0", u"1");
-  Click(Control(u"cmdTBF0"));
-  EXPECT_EVENTUALLY(Read(u"txbYearCE0") != u"1", true);
-  const std::size_t block = Read(u"txbOutput").size();
+  Fill(u"txbOutput", u"1");
+  Click(Control(u"cmdCopy"));
+  EXPECT_EVENTUALLY(ClipboardText(), u"1");
+  Fill(u"txbOutput", u"2");
   Press({VK_RETURN});
-  EXPECT_EVENTUALLY(Read(u"txbOutput").size(), 2 * block);
+  EXPECT_EVENTUALLY(ClipboardText(), u"2");
 }
 
 TEST_F(RealWindow, NothingRunsBehindAMessageBox) {
   const auto is_framed = [this] { return Ask(u"cmdConvert", WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON; };
   Fill(u"txbYearCE0", u"");
   Press({VK_SPACE});
-  EXPECT_EVENTUALLY(Focus(), AtBox);
+  EXPECT_EVENTUALLY(Focus(), AtMessageBox);
   const HWND box = GetLastActivePopup(window);
   EXPECT_EQ(TextOf(box), u"Invalid input");
   EXPECT_TRUE(FindWindowExW(box, nullptr, L"STATIC", L"Gregorian  date is invalid."));
   EXPECT_FALSE(is_framed());
-  // A tick would take the blank away before the character comes.
+  // A tick would trim the space before the character arrives.
   Fill(u"txbYearCE0", u" 3");
   PostMessageW(GetNextDlgTabItem(box, nullptr, FALSE), WM_KEYDOWN, VK_RETURN, Held);
   PostMessageW(window, WM_TIMER, 1, 0);
@@ -170,7 +170,7 @@ TEST_F(RealWindow, NothingRunsBehindAMessageBox) {
   PostMessageW(Control(u"txbYearCE0"), WM_CHAR, u'0', 0);
   EXPECT_EVENTUALLY(Read(u"txbYearCE0"), u"0 3");
   EXPECT_EQ(GetLastActivePopup(window), box);
-  EXPECT_EQ(Focus(), AtBox);
+  EXPECT_EQ(Focus(), AtMessageBox);
   Press({VK_ESCAPE});
   EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
   EXPECT_TRUE(is_framed());
@@ -194,9 +194,9 @@ TEST_F(RealWindow, EnterThatClosesAMessageBoxDoesNotConvert) {
   Fill(u"txbYearCE0", u"");
   GoTo(u"txbYearCE0");
   Press({VK_RETURN});
-  EXPECT_EVENTUALLY(Focus(), AtBox);
-  // It is held until the field behind has the focus again. Its repeats and its end there bring up
-  // no other box.
+  EXPECT_EVENTUALLY(Focus(), AtMessageBox);
+  // It is held until the field is focused again. Its repeats and its release there bring up no
+  // other message box.
   Key(VK_RETURN, true);
   EXPECT_EVENTUALLY(Focus(), u"txbYearCE0");
   PostMessageW(Control(u"txbYearCE0"), WM_KEYDOWN, VK_RETURN, Held);
@@ -207,53 +207,52 @@ TEST_F(RealWindow, EnterThatClosesAMessageBoxDoesNotConvert) {
 
 TEST_F(RealWindow, CombosChooseWhenTheChoiceIsMade) {
   SendMessageW(Control(u"cboDay0"), CB_SETCURSEL, 4, 0);
-  // One after the other.
   const struct {
-    Text list;
+    Text combo;
     std::vector<WORD> keys;
-    Text shown, focus;  // what its line shows then, and where the focus is
+    Text shown, focus;  // afterwards
   } steps[] = {
       {u"cboDay0", {VK_F4, VK_HOME, VK_RETURN}, u"1", u"cmdConvert"},
-      // A closed list chooses at once, an open one at Enter.
+      // Closed, it chooses at once; open, at Enter.
       {u"cboGMet", {VK_UP}, u"GMet-1", u"cmdConvert"},
       {u"cboGMet", {VK_F4, VK_DOWN, VK_RETURN}, u"GMet-2", u"cmdConvert"},
-      // What the line shows is what counts, also when it was typed into the open list.
+      // Enter takes the item that begins with the text typed while the list is open.
       {u"cboGMet", {VK_F4, VK_DELETE, 'G'}, u"g", u"cboGMet"},
       {u"cboGMet", {VK_RETURN}, u"GMet-1", u"cmdConvert"},
   };
   for (const auto& step : steps) {
-    if (Focus() != step.list) GoTo(step.list);
+    if (Focus() != step.combo) GoTo(step.combo);
     Press(step.keys);
-    EXPECT_EVENTUALLY(std::pair(Read(step.list), Focus()), std::pair(step.shown, step.focus));
+    EXPECT_EVENTUALLY(std::pair(Read(step.combo), Focus()), std::pair(step.shown, step.focus));
   }
 }
 
-// The line of a list reads the item that counts, however the list is left, and after a selection
-// from code.
+// However its list is closed, and after a selection from code.
 TEST_F(RealWindow, CombosShowTheChosenItem) {
-  for (const Text list : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
-    SCOPED_TRACE(testing::PrintToString(list));
-    const auto closed = ComboState(list);
-    const LRESULT index = Ask(list, CB_GETCURSEL);
+  for (const Text combo : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
+    SCOPED_TRACE(testing::PrintToString(combo));
+    const auto closed = ComboState(combo);
+    const LRESULT index = Ask(combo, CB_GETCURSEL);
     for (const bool by_mouse : {true, false}) {
-      GoTo(list);
-      by_mouse ? Click(Control(list)) : Press({VK_F4});
-      EXPECT_EVENTUALLY(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+      GoTo(combo);
+      by_mouse ? Click(Control(combo)) : Press({VK_F4});
+      EXPECT_EVENTUALLY(Ask(combo, CB_GETDROPPEDSTATE), TRUE);
       index == 0 ? Press({VK_DOWN}) : Press({VK_UP});
-      EXPECT_EVENTUALLY(Ask(list, CB_GETCURSEL), index == 0 ? 1 : index - 1);
-      PostMessageW(window, WM_TIMER, 1, 0);  // a tick: what is browsed does not count
+      EXPECT_EVENTUALLY(Ask(combo, CB_GETCURSEL), index == 0 ? 1 : index - 1);
+      PostMessageW(window, WM_TIMER, 1,
+                   0);  // a tick reads the chosen item, not the highlighted one
       by_mouse ? Click(Control(u"txbOutput")) : Press({VK_ESCAPE});
-      EXPECT_EVENTUALLY(ComboState(list), closed);
+      EXPECT_EVENTUALLY(ComboState(combo), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
-    Fill(list, u"abc");
+    Fill(combo, u"abc");
     Press({VK_F4});
-    EXPECT_EVENTUALLY(Ask(list, CB_GETDROPPEDSTATE), TRUE);
+    EXPECT_EVENTUALLY(Ask(combo, CB_GETDROPPEDSTATE), TRUE);
     Press({VK_ESCAPE});
-    EXPECT_EVENTUALLY(ComboState(list), std::tuple(Text(u"abc"), -1, FALSE));
+    EXPECT_EVENTUALLY(ComboState(combo), std::tuple(Text(u"abc"), -1, FALSE));
     GoTo(u"cmdTBF0");
     Press({VK_RETURN});
-    EXPECT_EVENTUALLY(ComboState(list), closed);
+    EXPECT_EVENTUALLY(ComboState(combo), closed);
   }
 }
 
@@ -263,15 +262,15 @@ TEST_F(RealWindow, AnotherDpiLeavesWhatTheCombosHold) {
   Press({'L'});
   EXPECT_EVENTUALLY(Read(u"cboYearInMet"), u"l");
   GoTo(u"cboGMet");
-  for (const int scale : {dpi * 5 / 4, dpi}) {
+  for (const int other_dpi : {dpi * 5 / 4, dpi}) {
     Press({VK_F4, VK_UP});
     EXPECT_EVENTUALLY(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
-    SendDpiChanged(scale);
-    ExpectPlaces(*this, scale);
+    SendDpiChanged(other_dpi);
+    ExpectLayout(*this, other_dpi);
     EXPECT_EQ(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-2"), 1, FALSE));
     EXPECT_EQ(ComboState(u"cboYearInMet"), std::tuple(Text(u"l"), -1, FALSE));
   }
-  Press({VK_UP});  // a choice again
+  Press({VK_UP});  // closed again, it chooses
   EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
 }
 
@@ -290,7 +289,7 @@ TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
   SendDpiChanged(dpi * 5 / 4);
   EXPECT_EQ(bounds(), dragged) << "which the message gave it";
   SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
-  ExpectPlaces(*this, dpi * 5 / 4);
+  ExpectLayout(*this, dpi * 5 / 4);
   RECT client;
   GetClientRect(window, &client);
   EXPECT_EQ(client.right, Pixels(Layout::ClientWidth, dpi * 5 / 4));
@@ -298,14 +297,14 @@ TEST_F(RealWindow, ADraggedWindowIsFittedWhenItIsReleased) {
 }
 
 TEST_F(RealWindow, TheWheelIsForTheFocusedCombo) {
-  const HWND list = Control(u"cboGMet");
+  const HWND combo = Control(u"cboGMet");
   constexpr WPARAM Up = WHEEL_DELTA << 16;
-  PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
+  PostMessageW(combo, WM_MOUSEWHEEL, Up, 0);
   Press({VK_TAB});
   EXPECT_EVENTUALLY(Focus(), u"cmdTBF0");
   EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
   GoTo(u"cboGMet");
-  PostMessageW(list, WM_MOUSEWHEEL, Up, 0);
+  PostMessageW(combo, WM_MOUSEWHEEL, Up, 0);
   EXPECT_EVENTUALLY(Focus(), u"cmdConvert");
 }
 
@@ -313,7 +312,7 @@ TEST_F(RealWindow, TickDisablesCommandsAndKeepsTheCaretOnItsCharacter) {
   GoTo(u"txbYearCE0");
   Fill(u"txbYearCE0", u"  30");
   Press({VK_END, VK_LEFT});                       // between the digits
-  EXPECT_EVENTUALLY(Read(u"txbYearCE0"), u"30");  // trimmed by a tick that comes by itself
+  EXPECT_EVENTUALLY(Read(u"txbYearCE0"), u"30");  // trimmed by a real tick
   EXPECT_EVENTUALLY(Ask(u"txbYearCE0", EM_GETSEL), MAKELONG(1, 1));
   Fill(u"txbYearCE0", u"");
   EXPECT_EVENTUALLY(IsWindowEnabled(Control(u"cmdTBF2")), FALSE);
@@ -323,10 +322,10 @@ TEST_F(RealWindow, ThePaneGrowsBeyondTheNativeLimitAndShowsItsEnd) {
   const std::size_t block = Read(u"txbOutput").size();
   const std::size_t full = 40000;  // in more than 400 lines
   Fill(u"txbOutput", Text(full, u'x'));
-  SendMessageW(Control(u"txbOutput"), EM_SETSEL, 0, -1);  // which the block must not replace
+  SendMessageW(Control(u"txbOutput"), EM_SETSEL, 0, -1);  // the block must not replace it
   Press({VK_SPACE});
   EXPECT_EVENTUALLY(Read(u"txbOutput").size(), full + block);
-  EXPECT_EQ(Ask(u"txbOutput", EM_GETSEL), MAKELONG(full + block, full + block));
+  EXPECT_EQ(LOWORD(Ask(u"txbOutput", EM_GETSEL)), full + block) << "the caret";
   EXPECT_GT(Ask(u"txbOutput", EM_GETFIRSTVISIBLELINE), 400);
   GoTo(u"txbOutput");
   Press({'X'});
@@ -348,12 +347,9 @@ TEST_F(RealWindow, CopiesThePaneToTheLetter) {
   CloseClipboard();
   GoTo(u"cmdCopy");
   Press({VK_SPACE});
-  EXPECT_EVENTUALLY(IsClipboardFormatAvailable(CF_UNICODETEXT), TRUE);
-  EXPECT_EVENTUALLY(OpenClipboard(nullptr), TRUE);
+  EXPECT_EVENTUALLY(ClipboardText(), u"\u00E4.\r\n\t");
   EXPECT_EQ(IsClipboardFormatAvailable(CF_PRIVATEFIRST), FALSE);
-  const auto* copied = static_cast<const char16_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
-  EXPECT_EQ(Text(copied ? copied : u""), u"\u00E4.\r\n\t");
-  // While another program holds the clipboard.
+  EXPECT_EVENTUALLY(OpenClipboard(nullptr), TRUE);  // so that the program cannot
   Press({VK_SPACE, VK_TAB});
   EXPECT_EVENTUALLY(Focus(), u"cmdQuit");
   CloseClipboard();

@@ -1,4 +1,4 @@
-// The toolkit in memory: what the form asks for, without a screen. A test plays the user.
+// A toolkit without a screen, for the tests of the form. A test plays the user.
 #pragma once
 
 #include <map>
@@ -11,9 +11,9 @@ namespace Fake {
 using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title, icon
 
 struct Screen {
-  bool is_on = false;                       // the one window has been brought up
-  const Toolkit::Control* focus = nullptr;  // of that window
-  std::string applied;                      // the properties that were changed there
+  bool is_on = false;  // the window is shown
+  const Toolkit::Control* focus = nullptr;
+  std::string applied;  // the properties that have reached the platform
 };
 inline Screen screen;
 

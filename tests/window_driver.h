@@ -1,11 +1,11 @@
-// A running tandem.exe, seen and used from outside as any program on the desktop can: its windows
-// are found, their texts read and keys pressed.
+// Drives a running tandem.exe from outside, as any program on the desktop can: finds its windows,
+// reads their texts and presses keys.
 //
-// What the program does with a key shows only some time later, so every expectation waits, and for
-// the final state: never for "no longer the old one", which may be the state in between. A message
-// that is sent comes back when the handler in progress has ended; the calls that look at focus,
-// state or screen do not wait for that, and so each stands behind a sent message here. But sent
-// messages overtake keys: what follows a key must wait until the key has shown its effect.
+// The effect of a key shows only later, so every expectation waits, and for the final state: never
+// for "no longer the old one", which may be a state in between. A sent message returns when the
+// handler in progress has ended. The calls that look at focus, state or screen do not wait for
+// that, so each follows a sent message here. But sent messages overtake keys: what follows a key
+// must wait until the key has shown its effect.
 #pragma once
 
 #include <windows.h>
@@ -19,22 +19,19 @@
 #include "layout.h"
 #include "win32_toolkit.h"
 
-// Expects `seen` to become `wanted` while the user waits. What is compared is the value that was
-// waited for, or the last one that was seen instead; so `wanted` must not hold before the action
-// that leads to it.
+// Polls until `seen` equals `wanted`, which must not hold before, and compares the last value.
 #define EXPECT_EVENTUALLY(seen, wanted) EXPECT_EQ(Await([&] { return seen; }, wanted), wanted)
 
 namespace Driver {
 
-// Looks, 2 ms and more apart; far more than anything takes. Time itself is no measure: after a
-// while in which the whole machine stood still nothing has had its chance yet.
-constexpr int Patience = 10000;
+// A number of polls, 2 ms and more apart, not a time, so that a stalled machine fails no test.
+constexpr int MostPolls = 10000;
 
-// Looks until `see` gives `wanted`, and gives what it saw last.
+// Polls until `see` returns `wanted`, and returns its last value.
 template <class See, class Wanted>
-auto Await(See see, const Wanted& wanted, int most_looks = Patience) {
+auto Await(See see, const Wanted& wanted, int most_polls = MostPolls) {
   auto seen = see();
-  for (int looks = 1; seen != wanted && looks < most_looks; ++looks) {
+  for (int polls = 1; seen != wanted && polls < most_polls; ++polls) {
     Sleep(2);
     seen = see();
   }
@@ -66,20 +63,20 @@ inline void Press(const std::vector<WORD>& keys) {
   }
 }
 
-// Clicks a few pixels from the right end of a window, where a list has its arrow. Then the mouse
-// goes out of the way: an open list follows it where it lies over that.
+// Clicks a few pixels from the right end of a control, where a combo box has its arrow. Then the
+// mouse moves away, since an open list highlights what is under it.
 inline void Click(HWND window) {
-  RECT place;
-  GetWindowRect(window, &place);
-  // Place and button in one event, so that no move of the mouse can come between.
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  // Position and button in one event, so that no move of the mouse can come between.
   mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP,
-              static_cast<DWORD>(MulDiv(place.right - 8, 65536, GetSystemMetrics(SM_CXSCREEN))),
-              static_cast<DWORD>(MulDiv(place.top + 8, 65536, GetSystemMetrics(SM_CYSCREEN))), 0,
+              static_cast<DWORD>(MulDiv(bounds.right - 8, 65536, GetSystemMetrics(SM_CXSCREEN))),
+              static_cast<DWORD>(MulDiv(bounds.top + 8, 65536, GetSystemMetrics(SM_CYSCREEN))), 0,
               0);
   SetCursorPos(0, 0);
 }
 
-// Each test starts the program anew.
+// Each test starts the program.
 struct RealWindow : testing::Test {
   HANDLE process = nullptr;
   HWND window = nullptr;
@@ -108,69 +105,78 @@ struct RealWindow : testing::Test {
     return SendMessageW(Control(control), message, 0, 0);
   }
   Text Read(View control) const { return TextOf(Control(control)); }
-  // What the line of a list reads, the index, and whether the list is open.
-  std::tuple<Text, LRESULT, LRESULT> ComboState(View list) const {
-    return {Read(list), Ask(list, CB_GETCURSEL), Ask(list, CB_GETDROPPEDSTATE)};
+  // What a combo box shows, its index, and whether its list is open.
+  std::tuple<Text, LRESULT, LRESULT> ComboState(View combo) const {
+    return {Read(combo), Ask(combo, CB_GETCURSEL), Ask(combo, CB_GETDROPPEDSTATE)};
   }
 
-  // Where the next key goes, all of it from one look at the thread in front: the name of a control,
-  // AtBox while a message box is in front and its button has the focus, or nothing.
-  static inline const Text AtBox = u"the button of a box";
+  // Where the next key goes, from one look at the foreground thread: the name of a control,
+  // AtMessageBox if the button of a message box is focused, or nothing.
+  static inline const Text AtMessageBox = u"the button of a message box";
   Text Focus() const {
     SendMessageW(window, WM_NULL, 0, 0);
     GUITHREADINFO front = {};
     front.cbSize = sizeof front;
     GetGUIThreadInfo(0, &front);
     const HWND focus = front.hwndFocus;
-    if (focus && GetWindow(front.hwndActive, GW_OWNER) == window) return AtBox;
+    if (focus && GetWindow(front.hwndActive, GW_OWNER) == window) return AtMessageBox;
     for (const Toolkit::ControlTemplate& row : Layout::Rows) {
-      // A list has the focus also when the line in it has.
+      // Or the edit field of a combo box.
       const HWND control = Control(NameOf(row));
       if (focus && (focus == control || IsChild(control, focus))) return NameOf(row);
     }
     return u"";
   }
 
-  // The colour of a point on the middle of the height of a control, counted from its left edge.
+  // The colour of the point of a control `x` pixels from its left edge, at half its height.
   COLORREF Pixel(View control, int x) const {
-    RECT place;
-    GetWindowRect(Control(control), &place);
-    return ScreenPixel(place.left + x, (place.top + place.bottom) / 2);
+    RECT bounds;
+    GetWindowRect(Control(control), &bounds);
+    return ScreenPixel(bounds.left + x, (bounds.top + bounds.bottom) / 2);
   }
-  // For each dark point of a control its row, from the top of the client area. Its border and the
-  // arrow of a list are left out. Takes up to a tenth of a second.
+  // For each dark point of a control its y in the client area, without its border and the arrow of
+  // a combo box. Takes up to a tenth of a second.
   std::vector<LONG> Ink(View control) const {
     constexpr LONG Border = 3;
-    RECT place;
-    GetWindowRect(Control(control), &place);
-    COMBOBOXINFO list = {};
-    list.cbSize = sizeof list;
-    if (GetComboBoxInfo(Control(control), &list)) place.right = place.left + list.rcButton.left;
+    RECT bounds;
+    GetWindowRect(Control(control), &bounds);
+    COMBOBOXINFO combo = {};
+    combo.cbSize = sizeof combo;
+    if (GetComboBoxInfo(Control(control), &combo)) bounds.right = bounds.left + combo.rcButton.left;
     POINT client = {0, 0};
     ClientToScreen(window, &client);
     const HDC screen = GetDC(nullptr);
-    std::vector<LONG> rows;
-    for (LONG y = place.top + Border; y < place.bottom - Border; ++y) {
-      for (LONG x = place.left + Border; x < place.right - Border; ++x) {
-        if (GetGValue(GetPixel(screen, x, y)) < 100) rows.push_back(y - client.y);
+    std::vector<LONG> ink;
+    for (LONG y = bounds.top + Border; y < bounds.bottom - Border; ++y) {
+      for (LONG x = bounds.left + Border; x < bounds.right - Border; ++x) {
+        if (GetGValue(GetPixel(screen, x, y)) < 100) ink.push_back(y - client.y);
       }
     }
     ReleaseDC(nullptr, screen);
-    return rows;
+    return ink;
   }
 
-  // Gives a control the focus as the dialog manager does; where Tab leads has a test of its own.
+  // Focuses a control as the dialog manager does; where Tab leads has a test of its own.
   void GoTo(const Text& control) const {
     SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Control(control)), TRUE);
     EXPECT_EVENTUALLY(Focus(), control);
   }
-  // Tells the program of another scale as the system does, with a place in its own memory.
+  // Sends WM_DPICHANGED as the system does, with the bounds in the memory of the program.
   void SendDpiChanged(int dpi) const {
-    RECT place;
-    GetWindowRect(window, &place);
-    void* const there = VirtualAllocEx(process, nullptr, sizeof place, MEM_COMMIT, PAGE_READWRITE);
-    WriteProcessMemory(process, there, &place, sizeof place, nullptr);
-    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(there));
+    RECT bounds;
+    GetWindowRect(window, &bounds);
+    void* const copy = VirtualAllocEx(process, nullptr, sizeof bounds, MEM_COMMIT, PAGE_READWRITE);
+    WriteProcessMemory(process, copy, &bounds, sizeof bounds, nullptr);
+    SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(copy));
+  }
+  // The text on the clipboard; empty while another program holds it.
+  static Text ClipboardText() {
+    if (!OpenClipboard(nullptr)) return u"";
+    const auto* const text =
+        static_cast<const char16_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
+    Text copied(text ? text : u"");
+    CloseClipboard();
+    return copied;
   }
   void Fill(View box, View text) const {  // as a program does, without keys
     SendMessageW(Control(box), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Text(text).c_str()));

@@ -13,10 +13,9 @@
 //
 // The form also relies on the following:
 //
-//  - An item of an open list is chosen when Enter or a click takes it; arrows only highlight it,
-//  and
-//    Escape restores the previous choice. While the edit field of a list holds typed text nothing
-//    is selected. Otherwise ListIndex and what a closed list shows never differ.
+//  - An item of an open list is chosen when Enter or a click takes it. Arrows only highlight it;
+//    Escape restores the previous choice. While the edit field of a combo box holds typed text,
+//    nothing is selected. Otherwise ListIndex and what a closed combo box shows never differ.
 //  - All events are raised on one thread, one after the other: each handler runs to its end before
 //    the next event. While a message box is open there is no tick, and no command runs; the next
 //    tick comes within a second of its end. The one exception: if another program closes the window
@@ -26,22 +25,21 @@
 //
 // Who takes which key:
 //
-//   Tab, Shift+Tab   go round the enabled controls in the order of the rows; the option buttons are
-//                    one stop
-//   Enter, Space     press the focused command button, once, however long Enter is held; there is
-//   no
-//                    default button. In an open list Enter takes the item, in a multiline text box
-//                    it types a line end, again and again while it is held; elsewhere it does
-//                    nothing but raise KeyUp
-//   Up, Down, wheel  choose in a focused list that is closed, highlight in one that is open; arrows
-//                    choose among the option buttons
-//   Escape           closes an open list or a message box, and does nothing else
-//   Ctrl+A           selects all in a text box, as does Tab into one of a single line
-//   Ctrl+Tab         types a tab in a multiline text box
+//   Tab, Shift+Tab   The window: goes round the enabled controls, in the order of the rows. The
+//                    option buttons are one stop.
+//   Enter, Space     The focused command button: pressed once, however long Enter is held. There is
+//                    no default button.
+//   Enter            An open list: takes the item. A multiline text box: types a line end, and more
+//                    while it is held. A single-line text box: only raises KeyUp.
+//   Up, Down, wheel  A focused combo box: chooses, or highlights if its list is open.
+//   Arrows           The option buttons: choose.
+//   Escape           An open list or a message box: closes it.
+//   Ctrl+A           A text box: selects all, as Tab does into one of a single line.
+//   Ctrl+Tab         A multiline text box: types a tab.
 //
 // Texts are UTF-16, positions in them count its 16-bit units, and lines end with "\r\n". Lengths of
-// the layout are in twips, 1/1440 of an inch. Colours are 0x00BBGGRR; keys and icons have
-// the numbers of Win32.
+// the layout are in twips, 1/1440 of an inch. Colours are 0x00BBGGRR. Keys and icons have the
+// numbers of Win32.
 #pragma once
 
 #include <bitset>
