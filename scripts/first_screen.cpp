@@ -9,6 +9,7 @@
 
 int main() {
   constexpr int PaneId = Win32::FirstControlId;  // the first row of the layout
+  constexpr DWORD DrawingTime = 500;             // milliseconds until a text is on the screen
   wchar_t pane[1000] = L"";
   for (const DWORD start = GetTickCount(); !pane[0]; Sleep(10)) {
     const HWND box = GetDlgItem(FindWindowW(Win32::WindowClass, nullptr), PaneId);
@@ -18,6 +19,6 @@ int main() {
       return 1;
     }
   }
-  Sleep(500);  // until what was written is drawn, too
+  Sleep(DrawingTime);
   std::printf("%ls", pane);
 }

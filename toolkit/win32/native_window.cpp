@@ -73,10 +73,9 @@ NativeWindow::NativeWindow(int client_width, int client_height)
   SetWindowLongPtrW(hwnd_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   // The dialog manager would scale the controls by itself, from rounded pixels.
   using Change = BOOL(WINAPI*)(HWND, UINT, UINT);
-  constexpr UINT DisableAll = 1;  // DDC_DISABLE_ALL, which not every header has
   if (const auto set_behavior =
           SystemFunction<Change>(L"user32.dll", "SetDialogDpiChangeBehavior")) {
-    set_behavior(hwnd_, DisableAll, DisableAll);
+    set_behavior(hwnd_, DDC_DISABLE_ALL, DDC_DISABLE_ALL);
   }
   SetWindowsHookExW(WH_MSGFILTER, FilterEnterRepeats, nullptr, GetCurrentThreadId());
   monitor_dpi_ = DpiOf(hwnd_);
