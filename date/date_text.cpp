@@ -1,3 +1,5 @@
+#include <cstddef>
+
 #include "decimal.h"
 #include "euro_date.h"
 

@@ -1,3 +1,5 @@
+#include <cstddef>
+
 #include "euro_date.h"
 
 namespace DatePr2 {

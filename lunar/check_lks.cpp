@@ -1,3 +1,5 @@
+#include <cstddef>
+
 #include "lks_internal.h"
 
 namespace Karvel_Sorand {

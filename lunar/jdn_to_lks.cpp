@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstddef>
 
 #include "lks_internal.h"
 

@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 
 #include "lks_internal.h"
 

@@ -1,4 +1,5 @@
 #include <array>
+#include <cstddef>
 
 #include "lks_date.h"
 

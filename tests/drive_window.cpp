@@ -2,7 +2,11 @@
 #include "window_driver.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdio>
+#include <cstdlib>
+#include <tuple>
+#include <utility>
 
 #include "native.h"
 

@@ -13,6 +13,9 @@
 #include <process.h>
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <tuple>
 #include <vector>
 
 #include "control_names.h"

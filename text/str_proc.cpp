@@ -1,6 +1,7 @@
 #include "str_proc.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 
 namespace StrProc {

@@ -1,6 +1,7 @@
 #include "toolkit.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 
 namespace Toolkit {

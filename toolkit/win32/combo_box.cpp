@@ -1,3 +1,5 @@
+#include <string>
+
 #include "controls.h"
 
 #include <commctrl.h>

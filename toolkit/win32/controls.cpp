@@ -1,6 +1,8 @@
 // Makes the controls, and implements those that need only a few lines.
 #include "controls.h"
 
+#include <memory>
+
 namespace Win32 {
 
 std::unique_ptr<Toolkit::Control> NativeWindow::NewControl(const Toolkit::ControlTemplate& row) {

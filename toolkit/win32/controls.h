@@ -1,6 +1,8 @@
 // The controls of the window, each on the native control of its kind.
 #pragma once
 
+#include <cstdint>
+
 #include "native_window.h"
 
 namespace Win32 {

@@ -1,5 +1,6 @@
 #include "native.h"
 
+#include <cstddef>
 #include <map>
 #include <tuple>
 

@@ -1,3 +1,7 @@
+#include <cstdint>
+#include <string>
+#include <string_view>
+
 #include "controls.h"
 
 #include <commctrl.h>
