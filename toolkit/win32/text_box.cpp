@@ -63,14 +63,16 @@ bool TextBox::OnMessage(UINT message, WPARAM wparam, LPARAM lparam, LRESULT& res
       return true;
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:  // with Alt
-      NoteKeyDown(static_cast<std::int16_t>(wparam), (HIWORD(lparam) & KF_REPEAT) != 0);
+      // Another program can send keys while a message box is open.
+      if (window_.IsEnabled()) {
+        NoteKeyDown(static_cast<std::int16_t>(wparam), (HIWORD(lparam) & KF_REPEAT) != 0);
+      }
       // Not every keyboard layout makes a character of Ctrl+Tab.
       if (!IsTypedTab(wparam)) return false;
       Send(EM_REPLACESEL, TRUE, reinterpret_cast<LPARAM>(L"\t"));
       return true;
     case WM_KEYUP:
     case WM_SYSKEYUP:
-      // Another program can send keys while a message box is open.
       if (window_.IsEnabled()) NoteKeyUp(static_cast<std::int16_t>(wparam), ShiftState());
       return false;
     case WM_KILLFOCUS:
