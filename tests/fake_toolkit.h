@@ -8,12 +8,12 @@
 
 namespace Fake {
 
-using Box = std::tuple<Text, Text, Toolkit::Icon>;  // text, title, icon
+using Message = std::tuple<Text, Text, Toolkit::Icon>;  // text, title, icon
 
 struct Screen {
   bool is_on = false;  // the window is shown
   const Toolkit::Control* focus = nullptr;
-  std::string applied;  // the properties that have reached the platform
+  int changes = 0;  // of properties that have reached the platform
 };
 inline Screen screen;
 
@@ -29,17 +29,17 @@ struct TextBox : Toolkit::TextBox {
   void AppendText(View more) override { text += more; }
   void SetSelStart(std::int32_t position) override { selection = {position, position}; }
   void ApplyText(View all) override {
-    screen.applied += "Text ";
+    ++screen.changes;
     text = all;
     selection = {0, 0};
   }
   Selection GetSelection() const override { return selection; }
-  void SetSelection(Selection stretch) override { selection = stretch; }
+  void SetSelection(Selection range) override { selection = range; }
 };
 
 struct Label : Toolkit::Label {
   using Toolkit::Label::Label;
-  void ApplyCaption() override { screen.applied += "Caption "; }
+  void ApplyCaption() override { ++screen.changes; }
 };
 
 struct ComboBox : Toolkit::ComboBox {
@@ -48,7 +48,7 @@ struct ComboBox : Toolkit::ComboBox {
   void ApplyNewItem(const std::u16string&) override {}
   void ApplyClear() override { index = -1; }
   void ApplyListIndex(int item) override {
-    screen.applied += "ListIndex ";
+    ++screen.changes;
     index = item;
   }
 };
@@ -56,8 +56,8 @@ struct ComboBox : Toolkit::ComboBox {
 struct OptionButton : Toolkit::OptionButton {
   using Toolkit::OptionButton::NoteChosen;
   using Toolkit::OptionButton::OptionButton;
-  void ApplyValue() override { screen.applied += "Value "; }
-  void ApplyFontBold() override { screen.applied += "FontBold "; }
+  void ApplyValue() override { ++screen.changes; }
+  void ApplyFontBold() override { ++screen.changes; }
 };
 
 struct CommandButton : Toolkit::CommandButton {
@@ -65,7 +65,7 @@ struct CommandButton : Toolkit::CommandButton {
   bool Visible() const override { return screen.is_on; }
   bool HasFocus() const override { return screen.focus == this; }
   void SetFocus() override { screen.focus = this; }
-  void ApplyEnabled() override { screen.applied += "Enabled "; }
+  void ApplyEnabled() override { ++screen.changes; }
 };
 
 struct Window : Toolkit::Window {
@@ -73,7 +73,7 @@ struct Window : Toolkit::Window {
   Window() { screen = {}; }
 
   std::map<Text, Toolkit::Control*> controls;
-  Box box;  // the last one, or nothing
+  Message message;  // the last one, or nothing
   Text clipboard;
   int milliseconds = 0;  // between two ticks
   int ends = 0;          // of the program
@@ -92,8 +92,8 @@ struct Window : Toolkit::Window {
   }
   int Run() override { return 0; }
   void ShowMessage(View text, View title, Toolkit::Icon icon) override {
-    EXPECT_EQ(box, Box()) << "two message boxes at once";
-    box = Box(text, title, icon);
+    EXPECT_EQ(message, Message()) << "two message boxes at once";
+    message = Message(text, title, icon);
   }
   void SetClipboardText(View text) override { clipboard = text; }
   void EndProgram() override { ++ends; }

@@ -54,6 +54,12 @@ inline COLORREF ScreenPixel(int x, int y) {
   return color;
 }
 
+inline RECT BoundsOf(HWND window) {
+  RECT bounds;
+  GetWindowRect(window, &bounds);
+  return bounds;
+}
+
 inline void Key(WORD key, bool down) {
   keybd_event(static_cast<BYTE>(key), 0, down ? 0 : KEYEVENTF_KEYUP, 0);
 }
@@ -69,8 +75,7 @@ inline void Press(const std::vector<WORD>& keys) {
 // Clicks a few pixels from the right end of a control, where a combo box has its arrow. Then the
 // mouse moves away, since an open list highlights what is under it.
 inline void Click(HWND window) {
-  RECT bounds;
-  GetWindowRect(window, &bounds);
+  const RECT bounds = BoundsOf(window);
   // Position and button in one event, so that no move of the mouse can come between.
   mouse_event(MOUSEEVENTF_ABSOLUTE | MOUSEEVENTF_MOVE | MOUSEEVENTF_LEFTDOWN | MOUSEEVENTF_LEFTUP,
               static_cast<DWORD>(MulDiv(bounds.right - 8, 65536, GetSystemMetrics(SM_CXSCREEN))),
@@ -133,30 +138,28 @@ struct RealWindow : testing::Test {
 
   // The colour of the point of a control `x` pixels from its left edge, at half its height.
   COLORREF Pixel(View control, int x) const {
-    RECT bounds;
-    GetWindowRect(Control(control), &bounds);
+    const RECT bounds = BoundsOf(Control(control));
     return ScreenPixel(bounds.left + x, (bounds.top + bounds.bottom) / 2);
   }
-  // For each dark point of a control its y in the client area, without its border and the arrow of
-  // a combo box. Takes up to a tenth of a second.
+  // The y on the screen of each dark point in the left half of a control, its border left out.
+  // Takes up to a tenth of a second.
   std::vector<LONG> Ink(View control) const {
     constexpr LONG Border = 3;
-    RECT bounds;
-    GetWindowRect(Control(control), &bounds);
-    COMBOBOXINFO combo = {};
-    combo.cbSize = sizeof combo;
-    if (GetComboBoxInfo(Control(control), &combo)) bounds.right = bounds.left + combo.rcButton.left;
-    POINT client = {0, 0};
-    ClientToScreen(window, &client);
-    const HDC screen = GetDC(nullptr);
+    const RECT bounds = BoundsOf(Control(control));
     std::vector<LONG> ink;
     for (LONG y = bounds.top + Border; y < bounds.bottom - Border; ++y) {
-      for (LONG x = bounds.left + Border; x < bounds.right - Border; ++x) {
-        if (GetGValue(GetPixel(screen, x, y)) < 100) ink.push_back(y - client.y);
+      for (LONG x = bounds.left + Border; x < (bounds.left + bounds.right) / 2; ++x) {
+        if (GetGValue(ScreenPixel(x, y)) < 100) ink.push_back(y);
       }
     }
-    ReleaseDC(nullptr, screen);
     return ink;
+  }
+
+  // How many pixels the ink of a control is below its middle; many without ink.
+  LONG InkOffset(View control) const {
+    const RECT bounds = BoundsOf(Control(control));
+    const std::vector<LONG> ink = Ink(control);
+    return ink.empty() ? 1000 : (ink.front() + ink.back() + 1 - bounds.top - bounds.bottom) / 2;
   }
 
   // Focuses a control as the dialog manager does; where Tab leads has a test of its own.
@@ -166,8 +169,7 @@ struct RealWindow : testing::Test {
   }
   // Sends WM_DPICHANGED as the system does, with the bounds in the memory of the program.
   void SendDpiChanged(int dpi) const {
-    RECT bounds;
-    GetWindowRect(window, &bounds);
+    const RECT bounds = BoundsOf(window);
     void* const copy = VirtualAllocEx(process, nullptr, sizeof bounds, MEM_COMMIT, PAGE_READWRITE);
     WriteProcessMemory(process, copy, &bounds, sizeof bounds, nullptr);
     SendMessageW(window, WM_DPICHANGED, MAKEWPARAM(dpi, dpi), reinterpret_cast<LPARAM>(copy));
