@@ -11,8 +11,8 @@ import zlib
 from pathlib import Path
 
 SIZES = (16, 20, 24, 32, 40, 48, 64, 128, 256)
-YELLOW = (240, 232, 0)   # the ground of the window
-BLUE = (34, 48, 148)     # light enough to show on a dark ground
+YELLOW = (240, 232, 0)   # the background of the window
+BLUE = (34, 48, 148)     # light enough to show on a dark background
 RED = (224, 44, 16)
 
 

@@ -1,8 +1,7 @@
 # shellcheck shell=bash
-# Makes sure of the packages that scripts/packages.txt names.
+# Installs the packages that scripts/packages.txt names.
 
-# Installs those packages of the given stages that are missing. Fails, with the reason on the
-# screen, where that cannot be done.
+# Installs the missing packages of the given stages. If that is impossible it says why and fails.
 install_packages() {
   local missing=() package brings
   while read -r package brings; do
@@ -24,13 +23,12 @@ install_packages() {
     say "Install these as root: $by_hand" >&2
     return 1
   fi
-  # A source of the user's that is out of date need not be the one that has the packages.
+  # The source that fails need not be the one that has the packages.
   logged build/apt-update.log "${root[@]}" apt-get update -q ||
-    say "Trying with the lists of packages that are there" >&2
+    say "Trying with the package lists that are there" >&2
   check_cmake || return
   root+=(env DEBIAN_FRONTEND=noninteractive apt-get install -q -y --no-install-recommends)
-  # Ctrl+C stops the download at once. It stops the rest only at its end, since dpkg would have to
-  # be repaired.
+  # Ctrl+C stops the download at once, but not the installation: dpkg would have to be repaired.
   if ! logged build/apt-install.log "${root[@]}" --download-only "${missing[@]}" ||
     ! (trap '' INT && logged build/apt-install.log "${root[@]}" "${missing[@]}"); then
     say "Install these as root: $by_hand" >&2
@@ -40,7 +38,7 @@ install_packages() {
 
 is_debian() { command -v apt-get >/dev/null; }
 
-# On Debian a package is there or not; elsewhere, what counts is the command it brings.
+# On Debian, whether a package is installed; elsewhere, whether the command that it brings is.
 has_package() {
   if is_debian; then
     dpkg-query -W -f '${Status}\n' "$1" 2>/dev/null | grep -q '^install ok installed$'
@@ -49,7 +47,7 @@ has_package() {
   fi
 }
 
-# Fails where CMake, or else the one that would be installed, is too old.
+# Fails if CMake, or the one that would be installed, is too old.
 check_cmake() {
   local needed there
   needed=$(sed -n 's/^cmake_minimum_required(VERSION \(.*\))$/\1/p' CMakeLists.txt)

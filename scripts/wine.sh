@@ -1,12 +1,12 @@
 # shellcheck shell=bash
-# Wine's prefixes, and a display for programs that run without one of the user's.
+# Wine's prefixes, and a display for programs when the user has none.
 
-project=$PWD # also for a shell that goes elsewhere afterwards
+project=$PWD # even if the shell changes its directory
 
-# Makes Wine's prefix, if it is not there yet: its own folder below build, so that nothing of the
-# user's is touched. $1 is "own" for the windows of the user's display, or the dots per inch of a
-# desktop that Wine draws itself, with title bars and a working focus on a display that has no window
-# manager. $2 is the size of that desktop, if it is to be another than usual.
+# Makes Wine's prefix, unless it is there: in build/, so that the user's own is not touched. $1 is
+# "own" for windows on the user's display, or the DPI of a desktop that Wine draws itself, with title
+# bars and a working focus on a display without a window manager. $2 is the size of that desktop, if
+# not the usual one.
 prepare_wine() {
   export WINEPREFIX=$project/build/wine-$1 WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml,winemenubuilder.exe='
   unset WINEARCH # the program needs 64 bits
@@ -17,9 +17,9 @@ prepare_wine() {
     wineserver -w # the registry is written when the last program has ended
 }
 
-# Joined by &&, since bash does not stop at a failure in a function that is asked for its success.
+# Joined by &&, since bash ignores failures inside a function whose result is tested.
 make_prefix() {
-  local -x WINEDEBUG=fixme-all # what it says goes into a file
+  local -x WINEDEBUG=fixme-all # the output goes into a file
   local replacements='HKCU\Software\Wine\Fonts\Replacements'
   say "Making Wine's prefix build/wine-$1: up to a minute"
   rm -rf "$WINEPREFIX" &&
@@ -35,19 +35,19 @@ make_prefix() {
     echo ready >"$WINEPREFIX/ready"
 }
 
-# In the background, since Wine goes on after Ctrl+C for as long as it needs.
+# In the background, since Wine itself ignores Ctrl+C until it is ready.
 boot() { wineboot --init & wait $!; }
 
-# Debian's Wine does not look into the folder where Debian puts its fonts.
+# Debian's Wine does not look into the folder of Debian's Wine fonts.
 link_fonts() {
   [ ! -d /usr/share/wine/fonts ] ||
     ln -sf /usr/share/wine/fonts/* "$WINEPREFIX/drive_c/windows/Fonts/"
 }
 
-# Sets the value $2 of the registry's key $1 to $3.
+# Sets the value $2 of the registry key $1 to $3.
 set_value() { logged build/wine.log wine reg add "$1" /v "$2" /d "$3" /f "${@:4}"; }
 
-# Starts a display for this shell and the programs it starts; it ends with the shell.
+# Starts a display for this shell and its programs; it ends with the shell.
 start_display() {
   rm -f build/display
   Xvfb -displayfd 3 -screen 0 1920x1200x24 -nolisten tcp 3>build/display >build/xvfb.log 2>&1 &
