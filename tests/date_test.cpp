@@ -31,3 +31,10 @@ TEST(Dates, EveryDayOfEveryYear) {
     }
   }
 }
+
+TEST(Dates, OrdersSignsAndThousands) {
+  InitDateTables();
+  EXPECT_EQ(DateText({-10000, 1, 2, u'G', 0, 1}, DateOrderDMY, u"-", u","), u"02-01-(-10,000)");
+  EXPECT_EQ(DateText({9999, 12, 31, u'G', 0, 1}, DateOrderMDY, u"/", u","), u"12/31/9999");
+  EXPECT_EQ(SeparateThousands(u"-123456789012345678", u","), u"-123,456,789,012,34");
+}
