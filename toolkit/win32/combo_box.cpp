@@ -1,10 +1,11 @@
-#include <string>
-
-#include "controls.h"
+#include <windows.h>
 
 #include <commctrl.h>
 
+#include <string>
+
 #include "centered_edit.h"
+#include "controls.h"
 
 namespace Win32 {
 
@@ -96,7 +97,9 @@ void ComboBox::Draw(const DRAWITEMSTRUCT& item) {
   text.left += 1;
   DrawTextW(item.hDC, Wide(std::u16string(Item(static_cast<int>(item.itemID)))), -1, &text,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-  if (item.itemState & ODS_FOCUS) DrawFocusRect(item.hDC, &item.rcItem);
+  if ((item.itemState & ODS_FOCUS) && !(item.itemState & ODS_NOFOCUSRECT)) {
+    DrawFocusRect(item.hDC, &item.rcItem);
+  }
 }
 
 // Open: the last choice. Closed: the current item, if the edit field shows it.

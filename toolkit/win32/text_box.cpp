@@ -1,12 +1,13 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "controls.h"
-
-#include <commctrl.h>
-
 #include "centered_edit.h"
+#include "controls.h"
 
 namespace Win32 {
 
