@@ -193,6 +193,7 @@ TEST_F(Form, ABadYearIsNotValid) {
 }
 
 TEST_F(Form, LoadsItsTextsColorsAndFirstItems) {
+  EXPECT_EQ(form.lblCopyright.Caption(), u"The notice");
   EXPECT_EQ(window.BackColor(), 0xE8F0);
   for (const auto& [name, control] : window.controls) {
     const auto* const colored = dynamic_cast<Toolkit::Colored*>(control);
