@@ -44,9 +44,13 @@ struct Label : Toolkit::Label {
 
 struct ComboBox : Toolkit::ComboBox {
   int index = -1;
+  Text items;  // each followed by a space
   int ListIndex() const override { return index; }
-  void ApplyNewItem(const std::u16string&) override {}
-  void ApplyClear() override { index = -1; }
+  void ApplyNewItem(const std::u16string& item) override { items += item + u" "; }
+  void ApplyClear() override {
+    items.clear();
+    index = -1;
+  }
   void ApplyListIndex(int item) override {
     ++screen.changes;
     index = item;
