@@ -79,9 +79,11 @@ int LineHeight(HWND control) {
 NativeControl::NativeControl(NativeWindow& window, const Toolkit::ControlTemplate& row, Style style)
     : window_(window), row_(row) {
   if (!row.accessible_name.empty()) CreateAccessibleName(window.Hwnd(), row.accessible_name);
+  const RECT bounds = LayoutBounds();  // moving it later would show at start-up
   hwnd_ = RequireWindow(CreateWindowExW(
       style.ex_style, style.window_class, WideLiteral(row.text),
-      WS_CHILD | WS_VISIBLE | style.style, 0, 0, 0, 0, window.Hwnd(),
+      WS_CHILD | WS_VISIBLE | style.style, bounds.left, bounds.top, bounds.right - bounds.left,
+      bounds.bottom - bounds.top, window.Hwnd(),
       reinterpret_cast<HMENU>(INT_PTR{window.Add(*this)}), GetModuleHandleW(nullptr), nullptr));
 }
 
