@@ -41,7 +41,7 @@ logged() {
 }
 
 # Shows the end of a log file, and what has happened.
-show_end() { { tail -n 20 "$1"; say "$2; the whole log is $1"; } >&2; }
+show_end() { { tail -n 20 "$1"; say "" "$2; the whole log is $1"; } >&2; }
 
 # Configures and builds one preset.
 build() {

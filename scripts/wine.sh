@@ -23,7 +23,7 @@ make_prefix() {
   local replacements='HKCU\Software\Wine\Fonts\Replacements'
   say "Making Wine's prefix build/wine-$1: up to a minute"
   rm -rf "$WINEPREFIX" &&
-    logged build/wine.log boot &&
+    logged build/wine.log run_wineboot &&
     link_fonts &&
     set_value "$replacements" 'Courier New' 'Liberation Mono' &&
     set_value "$replacements" 'Microsoft Sans Serif' 'Liberation Sans' &&
@@ -36,7 +36,7 @@ make_prefix() {
 }
 
 # In the background, since Wine itself ignores Ctrl+C until it is ready.
-boot() { wineboot --init & wait $!; }
+run_wineboot() { wineboot --init & wait $!; }
 
 # Debian's Wine does not look into the folder of Debian's Wine fonts.
 link_fonts() {
