@@ -182,7 +182,7 @@ TEST_F(RealWindow, AnOpenComboChoosesAtEnter) {
                     std::pair(Text(u"GMet-1"), Text(u"cmdConvert")));
 }
 
-// However its list is closed, and after a selection from code.
+// However its list is closed.
 TEST_F(RealWindow, CombosShowTheChosenItem) {
   for (const Text combo : {u"cboGMet", u"cboMType", u"cboYearInMet"}) {
     SCOPED_TRACE(testing::PrintToString(combo));
@@ -199,18 +199,10 @@ TEST_F(RealWindow, CombosShowTheChosenItem) {
       EXPECT_EVENTUALLY(ComboState(combo), closed);
       EXPECT_EQ(Read(u"lblSameDay"), u"The dates above denote the same day.");
     }
-    Fill(combo, u"abc");
-    Press({VK_F4});
-    EXPECT_EVENTUALLY(Ask(combo, CB_GETDROPPEDSTATE), TRUE);
-    Press({VK_ESCAPE});
-    EXPECT_EVENTUALLY(ComboState(combo), std::tuple(Text(u"abc"), -1, FALSE));
-    GoTo(u"cmdTBF0");
-    Press({VK_RETURN});
-    EXPECT_EVENTUALLY(ComboState(combo), closed);
   }
   PostMessageW(Control(u"cboGMet"), WM_MOUSEWHEEL, WHEEL_DELTA << 16, 0);  // it is not focused
   Press({VK_TAB});
-  EXPECT_EVENTUALLY(Focus(), u"cmdTBF0");
+  EXPECT_EVENTUALLY(Focus(), u"cboGMet");
   EXPECT_EQ(Read(u"cboGMet"), u"GMet-2");
 }
 
@@ -221,11 +213,9 @@ TEST_F(RealWindow, AnotherDpiFitsADraggedWindowWhenItIsReleased) {
   EXPECT_EVENTUALLY(ComboState(u"cboGMet"), std::tuple(Text(u"GMet-1"), 0, TRUE));
   SendMessageW(window, WM_ENTERSIZEMOVE, 0, 0);
   SetWindowPos(window, nullptr, -100, 50, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-  const LONG width = Driver::BoundsOf(window).right + 100;
   SendMessageW(window, WM_THEMECHANGED, 0, 0);
   SendDpiChanged(dpi);  // with the bounds that the window has
   EXPECT_EQ(Driver::BoundsOf(window).left, -100);
-  EXPECT_EQ(Driver::BoundsOf(window).right + 100, width);
   SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
   ExpectLayout(*this, dpi);
   RECT client;

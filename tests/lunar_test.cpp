@@ -4,7 +4,6 @@
 #include "lks_date.h"
 
 using namespace Karvel_Sorand;
-using StrProc::Decimal;
 
 struct Lunar : testing::Test {
   Lunar() { InitLksTables(); }
@@ -81,7 +80,7 @@ TEST_F(Lunar, WeekdaysAndPhases) {
     in_b.append(LunarWeekdayName(day, u"B")).append(u" ");
     if (MoonPhaseName(day) == phase) continue;
     phase = MoonPhaseName(day);
-    phases += Decimal(day) + u" " + phase + u", ";
+    phases += StrProc::Decimal(day) + u" " + phase + u", ";
   }
   const std::u16string week6 = u"Monday Tuesday Wednesday Thursday Friday Saturday ";
   const std::u16string week7 = week6 + u"Sunday ";

@@ -7,7 +7,6 @@ TEST(TextBoxes, TrimmingKeepsTheSelectionOnItsCharacters) {
       {u"  2026 ", {3, 5}, u"2026", {1, 3}},
       {u"  2026 ", {0, 7}, u"2026", {0, 4}},
       {u"   ", {1, 2}, u"", {0, 0}},
-      {u"\t5", {2, 2}, u"\t5", {2, 2}},
   };
   Fake::TextBox box(u"");
   for (const auto& [before, selected, after, still_selected] : rows) {

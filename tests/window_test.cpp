@@ -97,8 +97,6 @@ TEST_F(Form, MovesToDays) {
     int calendar;  // the chosen one
     Text entry, button, date, weekday, lunar_date, lunar_weekday;
   } moves[] = {
-      {Gregorian, u"May 7 2010", u"cmdConvert", u"May 7 2010", u"Friday",
-       u"GMet-2 B 12 LYC-15 LA-5 24", u"Tuesday"},
       {Solar, u"December 23 -4693", u"cmdConvert", u"December 23 -4693", u"Friday",
        u"GMet-1 A 1 LYB-1 LA-1 1", u"Monday"},
       {Lunar, u"GMet-1 A 248 LYB-1 LB-2 9", u"cmdConvert", u"January 19 1", u"Friday",
@@ -202,7 +200,6 @@ TEST_F(Form, LoadsItsTextsColorsAndFirstItems) {
   // The years are empty, the rest is the first item or as in the layout.
   EXPECT_EQ(Row(0) + u", " + Row(1), u"January 1  Monday, January 1  Lunaday");
   EXPECT_EQ(Row(2), u"GMet-2 A 301 LYA-1 LA-1 1 ");
-  EXPECT_EQ(Fake::screen.focus, nullptr);
   EXPECT_EQ(window.milliseconds, 1000);
 }
 
