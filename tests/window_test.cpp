@@ -154,6 +154,8 @@ TEST_F(Form, RefusesWithAMessage) {
       {Lunar, u"GMet-2 B 12 LYC-15 LB-6 30", no_lunar_date},
       {Gregorian, u"May 7 -10000", u"Error getting Lunar Karvel-Sorand date",
        Toolkit::Icon::Exclamation, u"Error", u"cmdConvert", true},
+      {Solar, u"December 18 8265", u"Error getting Lunar Karvel-Sorand date",
+       Toolkit::Icon::Exclamation, u"Error", u"cmdConvert", true},
       {Gregorian, u"May 7 2010", u"Date too late", Tells, u"Today's date", u"cmdTBF0", true},
       {Solar, u"December 23 -4693", u"Date too early", Tells, u"Back one day", u"cmdTBF1", true},
       {Gregorian, u"December 21 -4693", u"Date too early", Tells, u"Forward one day", u"cmdTBF2",
