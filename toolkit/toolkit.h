@@ -1,5 +1,5 @@
 // What the form asks of a window toolkit: one window of fixed size with its controls, a timer,
-// message boxes and the clipboard. A platform derives a class from each of these and fills in the
+// message boxes and the clipboard. A platform derives its classes from these and fills in the
 // pure virtual functions; what must be the same on every platform is here once, in the functions
 // that are not virtual:
 //
@@ -16,10 +16,10 @@
 //  - An item of an open list is chosen when Enter or a click takes it. Arrows only highlight it;
 //    Escape restores the previous choice. While the edit field of a combo box holds typed text,
 //    nothing is selected. Otherwise ListIndex and what a closed combo box shows never differ.
-//  - All events are raised on one thread, one after the other: each handler runs to its end before
-//    the next event. While a message box is open there is no tick, and no command runs; the next
-//    tick comes within a second of its end. The one exception: if another program closes the window
-//    meanwhile, Unload is raised inside the handler that shows the message box.
+//  - All events are raised on one thread, one after the other, except the Click of rule 1. While a
+//    message box is open there is no tick, and no command runs; the next tick comes within a second
+//    of its end. Another program can still raise Unload, or the Click of a combo box or an option
+//    button, inside the handler that shows the message box.
 //  - A control has the focus even while another program is in front: it is the one that has it when
 //    the window is active again.
 //

@@ -37,7 +37,7 @@ Function SystemFunction(const wchar_t* library, const char* name) {
 // Returns `window`; if creation failed, reports it and exits with code 1.
 HWND RequireWindow(HWND window);
 
-// The dots per inch that the window is drawn with.
+// The dots per inch of the window's monitor, or of the system before Windows 10.
 int DpiOf(HWND window);
 
 // The font for a control at `dpi`; created once, kept for the life of the program.

@@ -29,8 +29,8 @@ class NativeWindow : public Toolkit::Window {
   // False while a message box is open: the command that shows it is not done yet.
   bool IsEnabled() const { return IsWindowEnabled(hwnd_) != FALSE; }
 
-  // Runs `step` once the message in hand is done, in the order of the calls; at once if the message
-  // queue is full.
+  // Runs `step` from the message loop, even that of a message box, in the order of the calls; at
+  // once if the message queue is full.
   void Defer(Toolkit::Event step);
 
   // The focused control, or the one that gets the focus when the window is active again.
