@@ -21,7 +21,7 @@ take_no_arguments() {
   esac
 }
 
-# Runs a function while no other command works in this folder.
+# Runs a function while no other ./run, ./test or .ci/run holds the lock of this folder.
 with_lock() {
   mkdir -p build
   exec 9>build/lock
