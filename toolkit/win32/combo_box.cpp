@@ -11,7 +11,7 @@ namespace Win32 {
 
 namespace {
 
-constexpr WPARAM MostVisibleItems = 12;
+constexpr WPARAM MinVisibleItems = 12;
 constexpr WPARAM SelectionField = static_cast<WPARAM>(-1);  // for CB_SETITEMHEIGHT
 
 NativeControl::Style StyleOf(const Toolkit::ControlTemplate& row) {
@@ -32,7 +32,7 @@ ComboBox::ComboBox(NativeWindow& window, const Toolkit::ControlTemplate& row)
     SetWindowTextW(hwnd_, WideLiteral(row.text));
     CenterText(GetWindow(hwnd_, GW_CHILD));
   }
-  Send(CB_SETMINVISIBLE, MostVisibleItems);
+  Send(CB_SETMINVISIBLE, MinVisibleItems);
 }
 
 void ComboBox::Place() {
@@ -138,7 +138,7 @@ void ComboBox::OnCommand(WORD code) {
       typed_text_ = TextOf(hwnd_);
       break;
     case CBN_KILLFOCUS:
-      ClearSelection();
+      ClearEditSelection();
       break;
     default:
       break;
@@ -169,11 +169,11 @@ void ComboBox::ShowChosen() {
   if (index < 0 && TextOf(hwnd_) != text) SetWindowTextW(hwnd_, Wide(text));
   // Last: if the platform reports the new text as typed, OnCommand has forgotten the choice.
   chosen_ = index;
-  if (!ContainsFocus()) ClearSelection();
+  if (!ContainsFocus()) ClearEditSelection();
 }
 
 // An edit field shows its selection even when it is not focused.
-void ComboBox::ClearSelection() {
+void ComboBox::ClearEditSelection() {
   if (!row_.properties.editable) return;
   const WORD end = HIWORD(Send(CB_GETEDITSEL));
   Send(CB_SETEDITSEL, 0, MAKELPARAM(end, end));

@@ -55,7 +55,7 @@ class ComboBox : public Toolkit::ComboBox, public NativeControl {
   void ApplyClear() override;
   void ApplyListIndex(int index) override;
   void ShowChosen();
-  void ClearSelection();
+  void ClearEditSelection();
 
   int chosen_ = -1;            // the last choice, whether the user's or the program's
   bool open_ = false;          // dropped down, or closed and not yet committed or reverted

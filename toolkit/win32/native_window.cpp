@@ -183,7 +183,7 @@ LRESULT NativeWindow::OnMessage(UINT message, WPARAM wparam, LPARAM lparam) {
         Activated();
       } else {
         SaveFocus();
-        FrameDefaultButton(nullptr);
+        SetDefaultButton(nullptr);
       }
       return 0;
     case WM_SETFOCUS:
@@ -269,11 +269,11 @@ void NativeWindow::Activated() {
 
 void NativeWindow::RestoreFocus() {
   ::SetFocus(last_focus_);
-  FrameDefaultButton(last_focus_);
+  SetDefaultButton(last_focus_);
 }
 
 // Gives only this button the default frame; no button if it is none.
-void NativeWindow::FrameDefaultButton(HWND button) {
+void NativeWindow::SetDefaultButton(HWND button) {
   for (const NativeControl* const control : controls_) {
     if (control->Kind() != Toolkit::Kind::CommandButton) continue;
     const HWND hwnd = control->Hwnd();

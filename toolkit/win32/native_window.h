@@ -51,14 +51,14 @@ class NativeWindow : public Toolkit::Window {
   void SaveFocus();
   void Activated();
   void RestoreFocus();
-  void FrameDefaultButton(HWND button);
+  void SetDefaultButton(HWND button);
   void OnCommand(WORD id, WORD code, HWND sender);
   void ShowIcons();
   HBRUSH BackgroundBrush(HDC dc, HWND hwnd) const;
 
   // Size and position, of the window and of its controls: placement.cpp.
   void Center();
-  SIZE FrameSize() const;
+  SIZE NonClientSize() const;
   void Fit();
   void Refit();
   void HandleDpiChange(int dpi, const RECT& bounds);

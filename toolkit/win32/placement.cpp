@@ -41,7 +41,7 @@ void NativeWindow::Center() {
 }
 
 // What the frame adds to the client area, which is the same for a window of any size.
-SIZE NativeWindow::FrameSize() const {
+SIZE NativeWindow::NonClientSize() const {
   constexpr LONG AnySize = 10000;
   RECT client = {0, 0, AnySize, AnySize};
   SendMessageW(hwnd_, WM_NCCALCSIZE, FALSE, reinterpret_cast<LPARAM>(&client));
@@ -59,7 +59,7 @@ void NativeWindow::Fit() {
   fitted_monitor_ = monitor;
   fitted_area_ = area;
 
-  const SIZE frame = FrameSize();
+  const SIZE frame = NonClientSize();
   const auto width = [&](int dpi) { return frame.cx + Pixels(client_width_, dpi); };
   const auto height = [&](int dpi) { return frame.cy + Pixels(client_height_, dpi); };
   const auto fits = [&](int dpi) {
